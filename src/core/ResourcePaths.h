@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: VornFrame contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QLatin1StringView>
+
+/// The resources that the code itself reads; the style sheets name theirs by the same paths.
+namespace VornFrame::ResourcePaths {
+
+inline constexpr QLatin1StringView GlobalSheet(":/vornframe/vornframelight.css");
+inline constexpr QLatin1StringView RibbonSheet(":/res/ribbonLight.css");
+
+inline constexpr QLatin1StringView Arrow(":/res/arrow.svg");
+
+} // namespace VornFrame::ResourcePaths

@@ -1,0 +1,231 @@
+// SPDX-FileCopyrightText: VornFrame contributors
+// SPDX-License-Identifier: MIT
+
+#include "RibbonButton.h"
+
+#include "RibbonButton_p.h"
+
+#include "core/LazyPolish.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace VornFrame {
+
+QMenu *RibbonButtonPrivate::menu() const
+{
+    const QAction *action = q_ptr->defaultAction();
+    return action ? action->menu() : nullptr;
+}
+
+bool RibbonButtonPrivate::isSplit() const
+{
+    return menu() && q_ptr->popupMode() != QToolButton::InstantPopup;
+}
+
+QString RibbonButtonPrivate::text() const
+{
+    const QAction *action = q_ptr->defaultAction();
+    const QString marked = action ? action->text() : q_ptr->text();
+    if (!marked.contains(u'&'))
+        return marked;
+    QString plain;
+    for (qsizetype i = 0; i < marked.size(); ++i) {
+        if (marked.at(i) == u'&' && i + 1 < marked.size())
+            ++i;
+        plain += marked.at(i);
+    }
+    return plain;
+}
+
+QSize RibbonButtonPrivate::textSize() const
+{
+    const QString string = text();
+    if (string != measuredText || q_ptr->font() != measuredFont) {
+        measuredText = string;
+        measuredFont = q_ptr->font();
+        measuredSize = measure(string);
+    }
+    return measuredSize;
+}
+
+QSize RibbonButtonPrivate::measure(const QString &string) const
+{
+    const QFontMetrics metrics = q_ptr->fontMetrics();
+    if (!isLarge() || !string.contains(u'\n'))
+        return {metrics.horizontalAdvance(string), metrics.height()};
+    QSize size = metrics.size(Qt::TextWordWrap, string);
+    // Word-wrapped without a width, every word stands on a line of its own; two lines are meant as
+    // they are.
+    const QStringList lines = string.split(u'\n');
+    if (lines.size() == 2)
+        size.setWidth(
+            qMax(metrics.horizontalAdvance(lines.at(0)), metrics.horizontalAdvance(lines.at(1))));
+    return size;
+}
+
+QSize RibbonButtonPrivate::sizeFor(int width) const
+{
+    if (isLarge()) {
+        const int iconWidth = largeIconSize.width() + 2 * largeIconMargin;
+        return {qMax(iconWidth, width + 2 * largeTextMargin), largeHeight};
+    }
+    if (!isSmall())
+        return baseSize;
+    const int common = smallLeftMargin + smallIconSize.width() + smallTextSpacing + width;
+    if (q_ptr->popupMode() == QToolButton::DelayedPopup)
+        return {common + smallRightMargin, baseSize.height()};
+    return {common + arrowRightMargin + arrowSize.width() + menuRightPart, baseSize.height()};
+}
+
+QRect RibbonButtonPrivate::menuRectFor(QSize size) const
+{
+    if (isLarge()) {
+        const int top = largeMenuTopMargin + largeTopMargin + largeIconSize.height();
+        return {0, top, size.width(), size.height() - top};
+    }
+    if (!isSmall())
+        return {};
+    const int left = smallLeftMargin + smallTextSpacing + smallIconSize.width() + menuGap
+                     + textWidth;
+    return {left, 0, arrowSize.width() - menuGap + arrowRightMargin + menuRightPart, size.height()};
+}
+
+void RibbonButtonPrivate::updateOverMenuPart(QPoint position)
+{
+    const bool over = mirrored(menuRect).contains(position);
+    if (over == overMenuPart)
+        return;
+    overMenuPart = over;
+    q_ptr->update();
+}
+
+RibbonButton::RibbonButton(QWidget *parent)
+    : QToolButton(parent), d_ptr(std::make_unique<RibbonButtonPrivate>(this))
+{
+    setMouseTracking(true);
+}
+
+RibbonButton::~RibbonButton() = default;
+
+void RibbonButton::setAction(QAction *action)
+{
+    Q_D(RibbonButton);
+    if (auto *menu = action->menu()) {
+        connect(menu, &QMenu::aboutToHide, this, [this, d] {
+            d->hovered = false;
+            update();
+        });
+        menu->installEventFilter(this);
+    }
+    connect(action, &QAction::visibleChanged, this,
+            [this, action] { setVisible(action->isVisible()); });
+    setDefaultAction(action);
+    if (!action->isVisible())
+        hide();
+}
+
+QSize RibbonButton::sizeHint() const
+{
+    Q_D(const RibbonButton);
+    ensurePolished();
+    return d->sizeFor(d->textSize().width());
+}
+
+bool RibbonButton::eventFilter(QObject *watched, QEvent *event)
+{
+    Q_D(RibbonButton);
+    QMenu *menu = d->menu();
+    if (menu && watched == menu && event->type() == QEvent::Show) {
+        // One pixel up: the menu's frame covers the bottom line of the button.
+        menu->move(menu->pos() - QPoint(0, 1));
+        return true;
+    }
+    return QToolButton::eventFilter(watched, event);
+}
+
+bool RibbonButton::event(QEvent *event)
+{
+    return isEarlyPolish(this, event) || QToolButton::event(event);
+}
+
+void RibbonButton::changeEvent(QEvent *event)
+{
+    // On a change of style the base class asks for margins and delays that this button has no use
+    // for, and below a style sheet each question costs a search through all rules.
+    if (event->type() != QEvent::StyleChange)
+        QToolButton::changeEvent(event);
+    else if (testAttribute(Qt::WA_WState_Polished))
+        QAbstractButton::changeEvent(event);
+}
+
+void RibbonButton::mousePressEvent(QMouseEvent *event)
+{
+    Q_D(RibbonButton);
+    if (event->button() != Qt::LeftButton) {
+        event->ignore();
+        return;
+    }
+    // The base class would open menus by its own rules. The release is its own: a button that is
+    // down is clicked.
+    d->hovered = true;
+    setDown(true);
+    if (!d->menu() || popupMode() == QToolButton::DelayedPopup)
+        return;
+    if (popupMode() == QToolButton::MenuButtonPopup) {
+        d->updateOverMenuPart(event->position().toPoint());
+        if (!d->overMenuPart)
+            return;
+        d->menuPressed = true;
+    }
+    showMenu();
+}
+
+void RibbonButton::mouseMoveEvent(QMouseEvent *event)
+{
+    Q_D(RibbonButton);
+    event->accept();
+    d->updateOverMenuPart(event->position().toPoint());
+    QToolButton::mouseMoveEvent(event);
+}
+
+void RibbonButton::enterEvent(QEnterEvent *event)
+{
+    Q_D(RibbonButton);
+    d->hovered = true;
+    QToolButton::enterEvent(event);
+}
+
+void RibbonButton::leaveEvent(QEvent *event)
+{
+    Q_D(RibbonButton);
+    d->hovered = false;
+    QToolButton::leaveEvent(event);
+}
+
+void RibbonButton::paintEvent(QPaintEvent * /*event*/)
+{
+    Q_D(RibbonButton);
+    QPainter painter(this);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing
+                           | QPainter::SmoothPixmapTransform);
+    if ((d->hovered && isEnabled()) || isChecked())
+        d->drawBackground(painter);
+    d->drawIcon(painter);
+    d->drawText(painter);
+    d->drawArrow(painter);
+}
+
+void RibbonButton::resizeEvent(QResizeEvent *event)
+{
+    Q_D(RibbonButton);
+    QToolButton::resizeEvent(event);
+    d->textWidth = d->textSize().width();
+    const QSize size = d->sizeFor(d->textWidth);
+    d->menuRect = d->menuRectFor(size);
+    setFixedSize(size);
+}
+
+} // namespace VornFrame
