@@ -34,6 +34,8 @@ public:
 protected:
     RibbonCorner(RibbonCornerPrivate &d, QWidget *parent);
 
+    void changeEvent(QEvent *event) override;
+
 private:
     Q_DECLARE_PRIVATE(RibbonCorner)
     Q_DISABLE_COPY_MOVE(RibbonCorner)

@@ -73,6 +73,7 @@ protected:
     RibbonGroup(RibbonGroupPrivate &d, QWidget *parent);
 
     bool event(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void actionEvent(QActionEvent *event) override;
 
 private:

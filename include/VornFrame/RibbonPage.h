@@ -36,6 +36,8 @@ public:
 protected:
     RibbonPage(RibbonPagePrivate &d, QWidget *parent);
 
+    void changeEvent(QEvent *event) override;
+
 private:
     Q_DECLARE_PRIVATE(RibbonPage)
     Q_DISABLE_COPY_MOVE(RibbonPage)

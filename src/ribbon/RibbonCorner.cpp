@@ -5,6 +5,10 @@
 
 #include "RibbonCorner_p.h"
 
+#include "core/DirectedMargins.h"
+
+#include <QEvent>
+
 namespace VornFrame {
 
 namespace {
@@ -16,9 +20,11 @@ constexpr int CornerSpacing = 2;
 
 void RibbonCornerPrivate::init()
 {
-    layout->setContentsMargins(CornerMargins);
     layout->setSpacing(CornerSpacing);
     q_ptr->setLayout(layout);
+    setDirectedMargins(q_ptr, CornerMargins);
+    // A line edit in the corner would claim a share of the empty room before it.
+    q_ptr->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
 }
 
 RibbonCorner::RibbonCorner(QWidget *parent) : RibbonCorner(*new RibbonCornerPrivate, parent)
@@ -41,6 +47,13 @@ void RibbonCorner::addWidget(QWidget *widget)
         return;
     d->layout->addWidget(widget);
     d->widgets.append(widget);
+}
+
+void RibbonCorner::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutDirectionChange)
+        setDirectedMargins(this, CornerMargins);
+    QFrame::changeEvent(event);
 }
 
 } // namespace VornFrame

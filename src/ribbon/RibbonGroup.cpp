@@ -5,6 +5,7 @@
 
 #include "RibbonGroup_p.h"
 
+#include "core/DirectedMargins.h"
 #include "core/LazyPolish.h"
 #include "RibbonActionItem.h"
 
@@ -24,6 +25,7 @@ constexpr QMargins GroupMargins(0, 1, 3, 1);
 constexpr int GroupSpacing = 3;
 constexpr int ItemSpacing = 4;
 constexpr int TitleHeight = 12;
+constexpr int TitleFontSize = 10; // px, so that descenders are not cut
 constexpr QSize SeparatorSize(1, 80);
 
 } // namespace
@@ -32,18 +34,23 @@ void RibbonGroupPrivate::init(const QString &title)
 {
     titleLabel->setAlignment(Qt::AlignCenter);
     titleLabel->setFixedHeight(TitleHeight);
+    QFont titleFont = titleLabel->font();
+    titleFont.setPixelSize(TitleFontSize);
+    titleLabel->setFont(titleFont);
     titleLabel->setObjectName(u"groupTitle"_s);
     titleLabel->installEventFilter(q_ptr);
     actionsLayout->setContentsMargins(0, 0, 0, 0);
     actionsLayout->setSpacing(ItemSpacing);
 
     auto *mainLayout = new QHBoxLayout(q_ptr);
-    mainLayout->setContentsMargins(GroupMargins);
+    setDirectedMargins(q_ptr, GroupMargins);
     mainLayout->setSpacing(GroupSpacing);
     auto *column = new QVBoxLayout;
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addLayout(actionsLayout);
+    // The row is centred in all the height there is, so that the titles of all groups are in line.
+    column->addLayout(actionsLayout, 1);
+    column->setAlignment(actionsLayout, Qt::AlignVCenter);
     column->addWidget(titleLabel);
     mainLayout->addLayout(column);
     mainLayout->addWidget(createSeparator());
@@ -157,6 +164,13 @@ void RibbonGroup::actionEvent(QActionEvent *event)
         return;
     if (QWidget *item = d->createItem(event->action()))
         d->actionsLayout->addWidget(item);
+}
+
+void RibbonGroup::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutDirectionChange)
+        setDirectedMargins(this, GroupMargins);
+    QWidget::changeEvent(event);
 }
 
 } // namespace VornFrame

@@ -5,6 +5,10 @@
 
 #include "RibbonPage_p.h"
 
+#include "core/DirectedMargins.h"
+
+#include <QEvent>
+
 namespace VornFrame {
 
 namespace {
@@ -15,10 +19,10 @@ constexpr QMargins PageMargins(3, 0, 0, 0);
 
 void RibbonPagePrivate::init()
 {
-    layout->setContentsMargins(PageMargins);
     layout->setSpacing(0);
     layout->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     q_ptr->setLayout(layout);
+    setDirectedMargins(q_ptr, PageMargins);
     // Polishing goes down to all children, once for each widget. A page that has been polished
     // while it was empty ends that walk: its groups are polished when the page is first shown.
     q_ptr->ensurePolished();
@@ -56,6 +60,13 @@ int RibbonPage::indexOf(RibbonGroup *group) const
 {
     Q_D(const RibbonPage);
     return group ? int(d->groups.indexOf(group)) : -1;
+}
+
+void RibbonPage::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutDirectionChange)
+        setDirectedMargins(this, PageMargins);
+    QWidget::changeEvent(event);
 }
 
 } // namespace VornFrame

@@ -66,7 +66,8 @@ void RibbonStackedWidgetPrivate::bringCurrentPageForward()
     QWidget *page = q_ptr->currentWidget();
     if (!page)
         return;
-    endWait(page, q_ptr->contentsRect());
+    if (waitingPages.remove(page))
+        endWait(page, q_ptr->contentsRect());
     if (q_ptr->isVisible())
         seenPages.insert(page);
 }
@@ -113,8 +114,10 @@ void RibbonStackedWidget::showPage(int index)
         return;
     // The stack lays out its current page only, and a shown page would be seen through the gaps of
     // that one.
-    if (page != currentWidget())
+    if (page != currentWidget()) {
         letWait(page, contentsRect());
+        d->waitingPages.insert(page);
+    }
     page->show();
 }
 

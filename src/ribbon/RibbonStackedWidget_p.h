@@ -29,6 +29,7 @@ public:
 
     QHash<QString, RibbonPage *> pagesByTitle; ///< two pages of one title share an entry
     QSet<const QWidget *> seenPages; ///< those that were the current one in a visible stack
+    QSet<const QWidget *> waitingPages; ///< those shown without being the current one
     RibbonStackedWidget *q_ptr = nullptr;
 };
 

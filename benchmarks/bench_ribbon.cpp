@@ -1,0 +1,307 @@
+// SPDX-FileCopyrightText: VornFrame contributors
+// SPDX-License-Identifier: MIT
+
+// What the ribbon costs beside the plainest Qt widgets that hold as many commands. Each case stands
+// beside its baseline in one run, because only the ratio of the two means anything on another
+// machine. Run it with --benchmark_format=json for figures that a program can read.
+
+#include <VornFrame/RibbonBar.h>
+#include <VornFrame/RibbonGroup.h>
+#include <VornFrame/RibbonPage.h>
+#include <VornFrame/RibbonSubgroup.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QHBoxLayout>
+#include <QLoggingCategory>
+#include <QPushButton>
+#include <QStyle>
+#include <QStyleFactory>
+#include <QTabWidget>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <benchmark/benchmark.h>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+using namespace VornFrame;
+
+namespace {
+
+constexpr int GroupsPerPage = 8;
+constexpr int ActionsPerGroup = 10;
+constexpr QSize WindowSize(1400, 800);
+
+/// Notices when the window that it watches has been painted.
+class PaintWatcher : public QObject
+{
+public:
+    explicit PaintWatcher(QWidget *window) { window->installEventFilter(this); }
+
+    void waitForPaint()
+    {
+        while (!m_painted)
+            QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+        m_painted = false;
+    }
+
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        m_painted = m_painted || event->type() == QEvent::UpdateRequest;
+        return false;
+    }
+
+private:
+    bool m_painted = false;
+};
+
+QString commandName(int page, int group, int action)
+{
+    return u"Command %1"_s.arg((page * GroupsPerPage + group) * ActionsPerGroup + action);
+}
+
+QIcon commandIcon()
+{
+    return QApplication::style()->standardIcon(QStyle::SP_FileIcon);
+}
+
+void addRibbonPage(RibbonBar *bar, int number, const QIcon &icon)
+{
+    RibbonPage *page = bar->addPage(u"Page %1"_s.arg(number));
+    for (int g = 0; g < GroupsPerPage; ++g) {
+        RibbonGroup *group = page->addGroup(u"Group"_s);
+        for (int a = 0; a < ActionsPerGroup; ++a)
+            group->addAction(new QAction(icon, commandName(number, g, a), bar));
+    }
+}
+
+/// Four large buttons and two columns of three small ones.
+void addMixedRibbonPage(RibbonBar *bar, int number, const QIcon &icon)
+{
+    RibbonPage *page = bar->addPage(u"Page %1"_s.arg(number));
+    for (int g = 0; g < GroupsPerPage; ++g) {
+        RibbonGroup *group = page->addGroup(u"Group"_s);
+        RibbonSubgroup *column = nullptr;
+        for (int a = 0; a < ActionsPerGroup; ++a) {
+            auto *action = new QAction(icon, commandName(number, g, a), bar);
+            if (a == 4 || a == 7)
+                column = group->addSubgroup();
+            if (column)
+                column->addAction(action);
+            else
+                group->addAction(action);
+        }
+    }
+}
+
+void addPlainPage(QTabWidget *tabs, int number, const QIcon &icon)
+{
+    auto *page = new QWidget;
+    auto *layout = new QHBoxLayout(page);
+    for (int g = 0; g < GroupsPerPage; ++g) {
+        for (int a = 0; a < ActionsPerGroup; ++a) {
+            auto *button = new QToolButton(page);
+            button->setText(commandName(number, g, a));
+            button->setIcon(icon);
+            layout->addWidget(button);
+        }
+    }
+    tabs->addTab(page, u"Page %1"_s.arg(number));
+}
+
+/// A window with \a bar or tab widget \a top above an empty rest.
+std::unique_ptr<QWidget> createWindow(QWidget *top)
+{
+    auto window = std::make_unique<QWidget>();
+    auto *layout = new QVBoxLayout(window.get());
+    layout->addWidget(top);
+    layout->addWidget(new QWidget);
+    window->resize(WindowSize);
+    return window;
+}
+
+using AddRibbonPage = void (*)(RibbonBar *, int, const QIcon &);
+
+void fill(RibbonBar *bar, int pages, AddRibbonPage addPage)
+{
+    const QIcon icon = commandIcon();
+    for (int p = 0; p < pages; ++p)
+        addPage(bar, p, icon);
+}
+
+/// A bar that gets its pages where it stands.
+template <AddRibbonPage addPage>
+std::unique_ptr<QWidget> createRibbonWindow(int pages)
+{
+    auto *bar = new RibbonBar;
+    std::unique_ptr<QWidget> window = createWindow(bar);
+    fill(bar, pages, addPage);
+    return window;
+}
+
+/// A bar that has all its pages before it is placed, as the bar of an agent may.
+std::unique_ptr<QWidget> createLatePlacedRibbonWindow(int pages)
+{
+    auto *bar = new RibbonBar;
+    fill(bar, pages, addRibbonPage);
+    return createWindow(bar);
+}
+
+std::unique_ptr<QWidget> createPlainWindow(int pages)
+{
+    auto *tabs = new QTabWidget;
+    const QIcon icon = commandIcon();
+    for (int p = 0; p < pages; ++p)
+        addPlainPage(tabs, p, icon);
+    return createWindow(tabs);
+}
+
+using CreateWindow = std::unique_ptr<QWidget> (*)(int);
+
+void constructToFirstPaint(benchmark::State &state, CreateWindow create)
+{
+    for (auto _ : state) {
+        QElapsedTimer timer;
+        timer.start();
+        const std::unique_ptr<QWidget> window = create(int(state.range(0)));
+        PaintWatcher watcher(window.get());
+        window->show();
+        watcher.waitForPaint();
+        state.SetIterationTime(double(timer.nsecsElapsed()) / 1e9);
+    }
+}
+
+/// The mean time of one switch through all pages of a window that were never seen.
+template <typename Tabs>
+void firstSwitch(benchmark::State &state, CreateWindow create)
+{
+    constexpr int Pages = 10;
+    for (auto _ : state) {
+        const std::unique_ptr<QWidget> window = create(Pages);
+        PaintWatcher watcher(window.get());
+        window->show();
+        watcher.waitForPaint();
+        auto *tabs = window->findChild<Tabs *>();
+        QElapsedTimer timer;
+        timer.start();
+        for (int p = 1; p < Pages; ++p) {
+            tabs->setCurrentIndex(p);
+            watcher.waitForPaint();
+        }
+        state.SetIterationTime(double(timer.nsecsElapsed()) / 1e9 / (Pages - 1));
+    }
+}
+
+void ribbonHideTemporaryPages(benchmark::State &state)
+{
+    auto *bar = new RibbonBar;
+    bar->addPage(u"Home"_s);
+    for (int p = 0; p < 100; ++p)
+        bar->addPage(u"Page %1"_s.arg(p), true);
+    const std::unique_ptr<QWidget> window = createWindow(bar);
+    PaintWatcher watcher(window.get());
+    window->show();
+    watcher.waitForPaint();
+    for (auto _ : state) {
+        for (int i = 1; i < bar->count(); ++i)
+            bar->showPage(i);
+        watcher.waitForPaint();
+        QElapsedTimer timer;
+        timer.start();
+        bar->hideTemporaryPages();
+        watcher.waitForPaint();
+        state.SetIterationTime(double(timer.nsecsElapsed()) / 1e9);
+    }
+}
+
+void plainHideTabs(benchmark::State &state)
+{
+    auto *tabs = new QTabWidget;
+    for (int p = 0; p < 101; ++p)
+        tabs->addTab(new QWidget, u"Page %1"_s.arg(p));
+    const std::unique_ptr<QWidget> window = createWindow(tabs);
+    PaintWatcher watcher(window.get());
+    window->show();
+    watcher.waitForPaint();
+    for (auto _ : state) {
+        for (int i = 1; i < tabs->count(); ++i)
+            tabs->setTabVisible(i, true);
+        watcher.waitForPaint();
+        QElapsedTimer timer;
+        timer.start();
+        for (int i = 1; i < tabs->count(); ++i)
+            tabs->setTabVisible(i, false);
+        watcher.waitForPaint();
+        state.SetIterationTime(double(timer.nsecsElapsed()) / 1e9);
+    }
+}
+
+void plainWindow(benchmark::State &state)
+{
+    constructToFirstPaint(state, createPlainWindow);
+}
+
+void ribbonWindow(benchmark::State &state)
+{
+    constructToFirstPaint(state, createRibbonWindow<addRibbonPage>);
+}
+
+void ribbonWindowPlacedLate(benchmark::State &state)
+{
+    constructToFirstPaint(state, createLatePlacedRibbonWindow);
+}
+
+void ribbonWindowMixedForms(benchmark::State &state)
+{
+    constructToFirstPaint(state, createRibbonWindow<addMixedRibbonPage>);
+}
+
+void plainFirstSwitch(benchmark::State &state)
+{
+    firstSwitch<QTabWidget>(state, createPlainWindow);
+}
+
+void ribbonFirstSwitch(benchmark::State &state)
+{
+    firstSwitch<RibbonBar>(state, createRibbonWindow<addRibbonPage>);
+}
+
+void timed(benchmark::internal::Benchmark *benchmark)
+{
+    benchmark->UseManualTime()->Unit(benchmark::kMillisecond);
+}
+
+void timedFor10And30Pages(benchmark::internal::Benchmark *benchmark)
+{
+    timed(benchmark->Arg(10)->Arg(30));
+}
+
+BENCHMARK(plainWindow)->Apply(timedFor10And30Pages);
+BENCHMARK(ribbonWindow)->Apply(timedFor10And30Pages);
+BENCHMARK(ribbonWindowPlacedLate)->Apply(timedFor10And30Pages);
+BENCHMARK(ribbonWindowMixedForms)->Apply(timedFor10And30Pages);
+BENCHMARK(plainFirstSwitch)->Apply(timed);
+BENCHMARK(ribbonFirstSwitch)->Apply(timed);
+BENCHMARK(plainHideTabs)->Apply(timed);
+BENCHMARK(ribbonHideTemporaryPages)->Apply(timed);
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    // The offscreen platform speaks up at every window that it opens.
+    QLoggingCategory::setFilterRules(u"*.warning=false"_s);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    const QApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
