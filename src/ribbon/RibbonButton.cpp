@@ -95,7 +95,7 @@ QRect RibbonButtonPrivate::menuRectFor(QSize size) const
 
 void RibbonButtonPrivate::updateOverMenuPart(QPoint position)
 {
-    const bool over = mirrored(menuRect).contains(position);
+    const bool over = menuPart().contains(position);
     if (over == overMenuPart)
         return;
     overMenuPart = over;

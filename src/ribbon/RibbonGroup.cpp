@@ -147,8 +147,9 @@ int RibbonGroup::indexOfSubgroup(RibbonSubgroup *subgroup) const
 bool RibbonGroup::eventFilter(QObject *watched, QEvent *event)
 {
     // Watched are the title and the separators.
-    return isEarlyPolish(static_cast<QWidget *>(watched), event)
-           || QWidget::eventFilter(watched, event);
+    if (watched->isWidgetType() && isEarlyPolish(static_cast<QWidget *>(watched), event))
+        return true;
+    return QWidget::eventFilter(watched, event);
 }
 
 bool RibbonGroup::event(QEvent *event)

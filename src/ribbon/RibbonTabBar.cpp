@@ -27,6 +27,16 @@ RibbonTab *RibbonTabBarPrivate::tab(int index) const
     return qobject_cast<RibbonTab *>(buttonGroup->buttons().value(index));
 }
 
+void RibbonTabBarPrivate::setTabVisible(int index, bool visible)
+{
+    RibbonTab *target = tab(index);
+    if (!target)
+        return;
+    target->setVisible(visible);
+    // The plate of a temporary tab is larger than the tab.
+    q_ptr->update();
+}
+
 RibbonTabBar::RibbonTabBar(QWidget *parent)
     : QFrame(parent), d_ptr(std::make_unique<RibbonTabBarPrivate>())
 {
@@ -64,15 +74,13 @@ int RibbonTabBar::count() const
 void RibbonTabBar::hideTab(int index)
 {
     Q_D(RibbonTabBar);
-    if (RibbonTab *tab = d->tab(index))
-        tab->hide();
+    d->setTabVisible(index, false);
 }
 
 void RibbonTabBar::showTab(int index)
 {
     Q_D(RibbonTabBar);
-    if (RibbonTab *tab = d->tab(index))
-        tab->show();
+    d->setTabVisible(index, true);
 }
 
 void RibbonTabBar::setCurrent(int index)

@@ -19,6 +19,7 @@ class RibbonTabBarPrivate
 public:
     /// The tab with the given index, null out of range.
     RibbonTab *tab(int index) const;
+    void setTabVisible(int index, bool visible);
 
     QColor temporaryColor{17, 113, 190}; ///< the plate behind temporary tabs
     QColor secondColor{22, 81,
