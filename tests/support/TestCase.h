@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: VornFrame contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QFont>
+#include <QLocale>
+#include <QObject>
+#include <QPalette>
+#include <QString>
+#include <QTest>
+#include <QWidget>
+
+#if defined(__GNUC__) && QT_VERSION >= QT_VERSION_CHECK(6, 7, 0)
+// The QTRY_ macros of Qt 6.8 make an int of a long, in the midst of the code that uses them.
+#    pragma GCC diagnostic ignored "-Wconversion"
+#endif
+
+/// The base of every test class of widgets.
+///
+/// All test functions see one look, whatever the machine's is: the Fusion style, a light palette and the font
+/// DejaVu Sans in 9 pt. A warning fails the function that it comes in, unless that function named it before with
+/// QTest::ignoreMessage(). After each function, the clean-up proves that no window, no grab and no pressed button
+/// is left and that the application's style sheet, palette, font, clipboard, layout direction and locale are as
+/// they were before it.
+///
+/// A class that needs an init() or cleanup() of its own calls the one here from it.
+class TestCase : public QObject
+{
+    Q_OBJECT
+
+protected Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+private:
+    /// What the whole application shares and a test function may touch.
+    struct ApplicationState
+    {
+        static ApplicationState current();
+        void restore() const;
+
+        QString styleSheet;
+        QPalette palette;
+        QFont font;
+        QString clipboardText;
+        Qt::LayoutDirection layoutDirection = Qt::LeftToRight;
+        QLocale locale;
+    };
+
+    QWidgetList m_windowsBefore;
+    ApplicationState m_stateBefore;
+};
