@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: VornFrame contributors
 // SPDX-License-Identifier: MIT
+// clazy:excludeall=non-pod-global-static (the macros that register the cases)
 
 // What the ribbon costs beside the plainest Qt widgets that hold as many commands. Each case stands
 // beside its baseline in one run, because only the ratio of the two means anything on another

@@ -22,7 +22,7 @@ template <typename Work>
 auto waiting(Work work)
 {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const auto result = work();
+    auto result = work();
     QGuiApplication::restoreOverrideCursor();
     return result;
 }
@@ -64,7 +64,7 @@ QString DocumentController::name() const
 TextFile::Status DocumentController::load(const QString &path)
 {
     return waiting([this, &path] {
-        const TextFile::Status status = m_file.load(path);
+        TextFile::Status status = m_file.load(path);
         if (status.ok()) {
             m_editor->setText(m_file.text());
             showFile();

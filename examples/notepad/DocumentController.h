@@ -10,8 +10,8 @@
 class NotepadActions;
 class TextEditor;
 
-/// The way of the text between the editor and its file: new, open, save, and the questions before something
-/// would be lost.
+/// The way of the text between the editor and its file: new, open, save, and the questions before
+/// something would be lost.
 class DocumentController : public QObject
 {
     Q_OBJECT
@@ -24,14 +24,15 @@ public:
     /// The name of the file without its folder, or a word for a text that has none.
     QString name() const;
 
-    /// Puts the text of the file at \a path into the editor, without any question. If that fails, the text that
-    /// is there stays.
+    /// Puts the text of the file at \a path into the editor, without any question. If that fails,
+    /// the text that is there stays.
     TextFile::Status load(const QString &path);
 
     /// The same for a person: says what went wrong. Returns whether it went well.
     bool openPath(const QString &path);
 
-    /// Whether the text may go: there is nothing unsaved, or the user saved it now or does not want it.
+    /// Whether the text may go: there is nothing unsaved, or the user saved it now or does not want
+    /// it.
     bool mayLoseText();
 
     /// Saves to the text's own file, or asks for one. Returns whether the text is safe on the disk.

@@ -33,7 +33,7 @@ QString lineEndText(TextFile::LineEnd lineEnd)
 
 } // namespace
 
-EditorStatusBar::EditorStatusBar(QWidget *parent) : QFrame(parent)
+EditorStatusBar::EditorStatusBar(QWidget *parent) : QFrame(parent), m_message(new QLabel(this))
 {
     setObjectName(u"statusBar"_s);
     setFixedHeight(BarHeight);
@@ -44,7 +44,6 @@ EditorStatusBar::EditorStatusBar(QWidget *parent) : QFrame(parent)
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(BarMargins);
     layout->setSpacing(LabelSpacing);
-    m_message = new QLabel;
     m_message->setObjectName(u"message"_s);
     m_message->setTextFormat(Qt::PlainText);
     // A long message is cut, but does not make the window wider.

@@ -131,8 +131,7 @@ void FindController::findWhileTyping()
     TextSearch::Match match = TextSearch::findNext(text, m_pattern, m_anchor, m_options);
     if (!match.isValid())
         match = TextSearch::findNext(text, m_pattern, 0, m_options);
-    if (match.isValid() || m_pattern.isEmpty())
-        m_editor->select(match.isValid() ? match.start : m_anchor, match.length);
+    m_editor->select(match.isValid() ? match.start : m_anchor, match.length);
     showCount();
 }
 

@@ -13,8 +13,8 @@ class NotepadActions;
 class QLabel;
 class TextEditor;
 
-/// Finds and replaces in the editor, from two fields on the find page and one in the ribbon's corner. The two
-/// find fields always hold the same text.
+/// Finds and replaces in the editor, from two fields on the find page and one in the ribbon's
+/// corner. The two find fields always hold the same text.
 class FindController : public QObject
 {
     Q_OBJECT

@@ -36,7 +36,7 @@ void FindField::keyPressEvent(QKeyEvent *event)
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        Q_EMIT entered(event->modifiers() & Qt::ShiftModifier);
+        Q_EMIT entered(event->modifiers().testFlag(Qt::ShiftModifier));
         return;
     case Qt::Key_Escape:
         Q_EMIT left();

@@ -11,7 +11,8 @@ class FindField : public QLineEdit
     Q_OBJECT
 
 public:
-    /// \a name says what the field is for, to those who see it while it is empty and to those who hear it.
+    /// \a name says what the field is for, to those who see it while it is empty and to those who
+    /// hear it.
     explicit FindField(const QString &name, QWidget *parent = nullptr);
 
     /// Makes the field ready to type in: focused, its text selected.

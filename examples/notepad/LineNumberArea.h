@@ -7,7 +7,8 @@
 
 class TextEditor;
 
-/// The strip beside the text that shows the number of each line; a person cannot use it, only read it.
+/// The strip beside the text that shows the number of each line; a person cannot use it, only read
+/// it.
 class LineNumberArea : public QWidget
 {
     Q_OBJECT

@@ -8,14 +8,15 @@
 class QMenu;
 class QWidget;
 
-/// All commands of the program, with their texts, icons and shortcuts. What they do is connected by those who do
-/// it; where they stand on the ribbon is said in NotepadRibbon.
+/// All commands of the program, with their texts, icons and shortcuts. What they do is connected by
+/// those who do it; where they stand on the ribbon is said in NotepadRibbon.
 class NotepadActions : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The actions are added to \a window too, so that each shortcut works whatever ribbon page is shown.
+    /// The actions are added to \a window too, so that each shortcut works whatever ribbon page is
+    /// shown.
     explicit NotepadActions(QWidget *window);
 
     QAction *newFile = nullptr;
@@ -104,8 +105,8 @@ private:
 
     QMenu *createMenu(const QString &name, const QString &title, const QString &shortcut,
                       const QString &tip);
-    void setTexts(QAction *action, const QString &text, const QString &shortcut,
-                  const QString &tip);
+    static void setTexts(QAction *action, const QString &text, const QString &shortcut,
+                         const QString &tip);
 
     QWidget *m_window;
 };

@@ -149,7 +149,8 @@ void NotepadDialog::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Escape:
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        // A dialog would close, or press a button. Here these keys lead from the ribbon's fields to the text.
+        // A dialog would close, or press a button. Here these keys lead from the ribbon's fields to
+        // the text.
         m_editor->setFocus(Qt::ShortcutFocusReason);
         return;
     default:
@@ -190,7 +191,8 @@ void NotepadDialog::showPosition()
 
 void NotepadDialog::showTitle()
 {
-    // The star of a changed text stands where the title holds this mark; in a name it stands for itself.
+    // The star of a changed text stands where the title holds this mark; in a name it stands for
+    // itself.
     QString name = m_document->name();
     name.replace(u"[*]"_s, u"[*][*]"_s);
     setWindowTitle(tr("%1[*] – Notepad").arg(name));

@@ -14,7 +14,8 @@ class SelectionController;
 class TextEditor;
 class ViewController;
 
-/// The window of the program: a ribbon, the text, and a status line. It closes only when the text may go.
+/// The window of the program: a ribbon, the text, and a status line. It closes only when the text
+/// may go.
 class NotepadDialog : public QDialog
 {
     Q_OBJECT

@@ -73,7 +73,8 @@ void NotepadRibbon::buildFileGroup()
 {
     NotepadActions *actions = m_parts.actions;
     RibbonGroup *group = m_homePage->addGroup(tr("File"));
-    // The mode of a menu is also that of the buttons behind it, so buttons without a menu come first.
+    // The mode of a menu is also that of the buttons behind it, so buttons without a menu come
+    // first.
     group->addAction(actions->newFile);
     group->addAction(actions->open);
     group->addMenu(actions->saveMenu, QToolButton::MenuButtonPopup);

@@ -17,7 +17,8 @@ class RibbonBar;
 class RibbonPage;
 } // namespace VornFrame
 
-/// Puts the commands and fields of the program onto a ribbon bar, and chooses the page that is shown.
+/// Puts the commands and fields of the program onto a ribbon bar, and chooses the page that is
+/// shown.
 class NotepadRibbon : public QObject
 {
     Q_OBJECT
@@ -38,8 +39,8 @@ public:
     void showHomePage();
     void showFindPage();
 
-    /// Shows or hides the tab of the page for selected text. The page does not push itself to the front; when it
-    /// goes while it is current, the page comes back that the user had before.
+    /// Shows or hides the tab of the page for selected text. The page does not push itself to the
+    /// front; when it goes while it is current, the page comes back that the user had before.
     void setSelectionPageVisible(bool visible);
 
     /// Opens \a menu under its button, on whatever page that is.

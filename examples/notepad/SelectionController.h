@@ -21,7 +21,8 @@ class SelectionController : public QObject
 public:
     SelectionController(TextEditor *editor, NotepadActions *actions);
 
-    /// Lines, words and characters of the selection; for the ribbon, whose container becomes its owner.
+    /// Lines, words and characters of the selection; for the ribbon, whose container becomes its
+    /// owner.
     QLabel *statisticsLabel() const { return m_statisticsLabel; }
 
 Q_SIGNALS:

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr QSize DialogSize(620, 480);
+constexpr QSize DialogSize(700, 480);
 
 QString keysOf(const QAction *action)
 {

@@ -58,7 +58,8 @@ QString TextEditor::text() const
 void TextEditor::setText(const QString &text)
 {
     setPlainText(text);
-    // A document margin counts as a change that can be undone, each time that it is laid round an empty text.
+    // A document margin counts as a change that can be undone, each time that it is laid round an
+    // empty text.
     document()->clearUndoRedoStacks();
     document()->setModified(false);
 }
@@ -152,8 +153,10 @@ void TextEditor::paintLineNumbers(QWidget *area, const QRect &exposed) const
     while (block.isValid() && top <= exposed.bottom()) {
         const bool isCurrent = block.blockNumber() == current;
         painter.setPen(isCurrent ? CurrentLineNumberColor : LineNumberColor);
-        const QRectF line(0, top, area->width() - LineNumber_Margin, fontMetrics().height());
-        painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter,
+        const QRect number(0, qRound(top), area->width() - LineNumber_Margin,
+                           fontMetrics().height());
+        painter.drawText(QStyle::visualRect(layoutDirection(), area->rect(), number),
+                         Qt::AlignRight | Qt::AlignVCenter,
                          QString::number(block.blockNumber() + 1));
         top += blockBoundingRect(block).height();
         block = block.next();
@@ -194,10 +197,10 @@ void TextEditor::dropEvent(QDropEvent *event)
 void TextEditor::changeEvent(QEvent *event)
 {
     QPlainTextEdit::changeEvent(event);
-    if (event->type() == QEvent::FontChange) {
+    if (event->type() == QEvent::FontChange)
         updateTabWidth();
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::LayoutDirectionChange)
         layOutLineNumbers();
-    }
 }
 
 void TextEditor::keyPressEvent(QKeyEvent *event)
@@ -304,7 +307,11 @@ void TextEditor::wheelEvent(QWheelEvent *event)
 void TextEditor::layOutLineNumbers()
 {
     const int width = m_lineNumbers->isVisibleTo(this) ? lineNumberWidth() : 0;
-    setViewportMargins(width, 0, 0, 0);
+    // Margins, unlike layouts, are not mirrored.
+    if (isRightToLeft())
+        setViewportMargins(0, 0, width, 0);
+    else
+        setViewportMargins(width, 0, 0, 0);
     m_lineNumbers->setGeometry(
         QStyle::visualRect(layoutDirection(), rect(), QRect(0, 0, width, height())));
 }

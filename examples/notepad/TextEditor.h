@@ -9,8 +9,9 @@
 
 class LineNumberArea;
 
-/// The plain-text field of the program. Beyond its base class it numbers lines, marks the current line and all
-/// places of a search, and gives and takes text to the letter (the base class turns no-break spaces into spaces).
+/// The plain-text field of the program. Beyond its base class it numbers lines, marks the current
+/// line and all places of a search, and gives and takes text to the letter (the base class turns
+/// no-break spaces into spaces).
 class TextEditor : public QPlainTextEdit
 {
     Q_OBJECT

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr char ByteOrderMark[] = "\xEF\xBB\xBF";
+constexpr QByteArrayView ByteOrderMark("\xEF\xBB\xBF");
 
 /// More links in a row than any sane system has; a ring of links ends here.
 constexpr int MaximumLinks = 40;
@@ -126,12 +126,12 @@ TextFile::Status TextFile::read(const QString &path, QByteArray *bytes)
 TextFile::Status TextFile::load(const QString &path)
 {
     QByteArray bytes;
-    if (const Status status = read(path, &bytes); !status.ok())
+    if (Status status = read(path, &bytes); !status.ok())
         return status;
     if (bytes.contains('\0'))
         return {Error::Binary, tr("It holds binary data, not text.")};
     const bool hasMark = bytes.startsWith(ByteOrderMark);
-    const QByteArray content = hasMark ? bytes.mid(qsizetype(sizeof(ByteOrderMark)) - 1) : bytes;
+    const QByteArray content = hasMark ? bytes.mid(ByteOrderMark.size()) : bytes;
     // A second mark would be text.
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
     const QString decoded = decoder.decode(content);
@@ -166,7 +166,8 @@ TextFile::Status TextFile::write(const QString &path, const QByteArray &bytes)
     QSaveFile file(target);
     if (!file.open(QIODevice::WriteOnly))
         return {Error::WriteFailed, file.errorString()};
-    // QSaveFile::commit() of Qt 6.4 may report success although the last bytes found no room on the disk.
+    // QSaveFile::commit() of Qt 6.4 may report success although the last bytes found no room on the
+    // disk.
     const bool isWritten = file.write(bytes) == bytes.size() && file.flush()
                            && file.size() == bytes.size();
     if (!isWritten || !file.commit())
@@ -179,7 +180,7 @@ TextFile::Status TextFile::write(const QString &path, const QByteArray &bytes)
 TextFile::Status TextFile::save(const QString &path, const QString &text)
 {
     const QByteArray bytes = encoded(text);
-    if (const Status status = write(path, bytes); !status.ok())
+    if (Status status = write(path, bytes); !status.ok())
         return status;
     m_breaks = breaksFor(text);
     if (m_breaks.count(m_commonBreak) == m_breaks.size())
@@ -223,8 +224,8 @@ void TextFile::setLineEnd(LineEnd lineEnd)
         m_commonBreak = lineEnd == LineEnd::Cr ? u"\r"_s : u"\n"_s;
 }
 
-/// The line ends that \a text gets where the file mixes them: the lines at the start and at the end that did not
-/// change keep theirs.
+/// The line ends that \a text gets where the file mixes them: the lines at the start and at the end
+/// that did not change keep theirs.
 QStringList TextFile::breaksFor(const QString &text) const
 {
     if (m_breaks.isEmpty())
@@ -266,5 +267,5 @@ QByteArray TextFile::encoded(const QString &text) const
         joined.replace(u'\n', m_commonBreak);
     }
     const QByteArray bytes = joined.toUtf8();
-    return m_byteOrderMark ? ByteOrderMark + bytes : bytes;
+    return m_byteOrderMark ? ByteOrderMark.toByteArray() + bytes : bytes;
 }

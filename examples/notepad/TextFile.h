@@ -8,11 +8,11 @@
 #include <QString>
 #include <QStringList>
 
-/// A UTF-8 text file, read and written so that nothing changes that the user did not change: the byte order
-/// mark, the kind of each line end and a missing last line end all survive.
+/// A UTF-8 text file, read and written so that nothing changes that the user did not change: the
+/// byte order mark, the kind of each line end and a missing last line end all survive.
 ///
-/// Text is exchanged with "\n" between its lines. Where a file mixes line ends, untouched lines keep theirs and
-/// new ones get the kind that prevails.
+/// Text is exchanged with "\n" between its lines. Where a file mixes line ends, untouched lines
+/// keep theirs and new ones get the kind that prevails.
 class TextFile
 {
     Q_DECLARE_TR_FUNCTIONS(TextFile)
@@ -41,20 +41,21 @@ public:
     };
 
     /// In bytes.
-    static constexpr qint64 MaximumSize = 64 * 1024 * 1024;
+    static constexpr qint64 MaximumSize = qint64(64) * 1024 * 1024;
 
     /// Reads the file at \a path. When that fails, everything stays as it was.
     Status load(const QString &path);
 
-    /// Writes \a text to the file at \a path, which becomes this object's file. A file that is there is replaced
-    /// in one step and only when all bytes are on the disk; until then it stays as it was. A link stays a link,
-    /// and permissions are kept.
+    /// Writes \a text to the file at \a path, which becomes this object's file. A file that is
+    /// there is replaced in one step and only when all bytes are on the disk; until then it stays
+    /// as it was. A link stays a link, and permissions are kept.
     Status save(const QString &path, const QString &text);
 
     /// The same without making \a path this object's file.
     Status saveCopy(const QString &path, const QString &text) const;
 
-    /// Whether the file holds other bytes than when it was last loaded or saved; a file that is gone does not.
+    /// Whether the file holds other bytes than when it was last loaded or saved; a file that is
+    /// gone does not.
     bool isChangedOnDisk() const;
 
     /// The absolute path; empty for a text that has no file yet.

@@ -5,7 +5,8 @@
 
 #include <QString>
 
-/// What can be done to a piece of text. Lines are separated by "\n"; a last line end stays where it is.
+/// What can be done to a piece of text. Lines are separated by "\n"; a last line end stays where it
+/// is.
 namespace TextTransforms {
 
 using Transform = QString (*)(const QString &text);

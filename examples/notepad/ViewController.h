@@ -11,8 +11,8 @@ class QSpinBox;
 class QWidget;
 class TextEditor;
 
-/// How the text looks on the screen: font, zoom, word wrap and what is shown beside it. Nothing of this goes into
-/// the file.
+/// How the text looks on the screen: font, zoom, word wrap and what is shown beside it. Nothing of
+/// this goes into the file.
 class ViewController : public QObject
 {
     Q_OBJECT

@@ -14,6 +14,8 @@
 #include <QStyleHints>
 #include <QVBoxLayout>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 using namespace VornFrame;
 
@@ -90,10 +92,11 @@ VornFrameAgent::~VornFrameAgent() = default;
 void VornFrameAgent::setup(QDialog *dialog, QWidget *content)
 {
     Q_D(VornFrameAgent);
-    std::call_once(d->setupOnce, [d, dialog, content] {
-        if (dialog)
-            d->setupDialog(dialog, content);
-    });
+    // Before the set-up itself: setting the application's sheet can lead back here.
+    if (std::exchange(d->setupOnce, true))
+        return;
+    if (dialog)
+        d->setupDialog(dialog, content);
 }
 
 RibbonBar *VornFrameAgent::ribbonBar() const

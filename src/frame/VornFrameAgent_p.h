@@ -4,12 +4,9 @@
 #pragma once
 
 #include <VornFrame/RibbonBar.h>
+#include <VornFrame/VornFrameAgent.h>
 
 #include <QPointer>
-
-#include <mutex>
-
-class VornFrameAgent;
 
 class VornFrameAgentPrivate
 {
@@ -25,6 +22,6 @@ public:
         new VornFrame::RibbonBar; ///< the window owns it once it is placed
     VornFrame::AddressBar *addressBar = nullptr;
     VornFrame::DockContainer *dockContainer = nullptr;
-    std::once_flag setupOnce; ///< shared by all set-ups
+    bool setupOnce = false; ///< shared by all set-ups
     VornFrameAgent *q_ptr = nullptr;
 };

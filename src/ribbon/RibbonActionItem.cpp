@@ -21,10 +21,12 @@ QToolButton *createButton(QAction *action, Qt::ToolButtonStyle style)
 
 QWidget *createEmbedded(QWidget *container, QWidgetAction *action)
 {
-    action->setParent(container);
     QWidget *widget = action->requestWidget(container);
-    if (widget)
-        widget->show();
+    // An action without a widget to give has one elsewhere, and stays with that one.
+    if (!widget)
+        return nullptr;
+    action->setParent(container);
+    widget->show();
     return widget;
 }
 

@@ -33,6 +33,8 @@ void RibbonBarPrivate::init()
     mainLayout->addLayout(topRow);
     mainLayout->addWidget(stack);
     q_ptr->setFixedHeight(mainLayout->sizeHint().height());
+    // Otherwise a tall widget in the corner would push the page out of the bar.
+    corner->setMaximumHeight(tabBar->height());
 
     q_ptr->setObjectName(u"RibbonBar"_s);
     q_ptr->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -42,7 +44,7 @@ void RibbonBarPrivate::init()
     QObject::connect(tabBar, &RibbonTabBar::idClicked, q_ptr, &RibbonBar::signalCurrentPageChanged);
 }
 
-void RibbonBarPrivate::expectNewParent() const
+void RibbonBarPrivate::askForParentChanges() const
 {
     // Only a widget with a native window is told of its new parent before it gets it.
     if (!q_ptr->parentWidget() && !q_ptr->testAttribute(Qt::WA_WState_Created))
@@ -59,8 +61,9 @@ void RibbonBarPrivate::liftSheet()
 
 void RibbonBarPrivate::putSheetBack()
 {
-    if (!liftedSheet.isEmpty())
-        q_ptr->setStyleSheet(std::exchange(liftedSheet, {}));
+    const QString sheet = std::exchange(liftedSheet, {});
+    if (!sheet.isEmpty() && q_ptr->styleSheet().isEmpty())
+        q_ptr->setStyleSheet(sheet);
 }
 
 RibbonBar::RibbonBar(QWidget *parent) : RibbonBar(*new RibbonBarPrivate, parent)
@@ -83,7 +86,7 @@ int RibbonBar::addPage(const QString &title, RibbonPage *page, bool temporary)
     // one.
     if (!page || contains(page))
         return indexOf(page);
-    d->expectNewParent();
+    d->askForParentChanges();
     d->tabBar->addTab(title, temporary);
     return d->stack->addPage(title, page);
 }
@@ -91,7 +94,7 @@ int RibbonBar::addPage(const QString &title, RibbonPage *page, bool temporary)
 RibbonPage *RibbonBar::addPage(const QString &title, bool temporary)
 {
     Q_D(RibbonBar);
-    d->expectNewParent();
+    d->askForParentChanges();
     const int index = d->tabBar->addTab(title, temporary);
     // Only the tab: the page itself is hidden by the stack until it is the current one.
     if (temporary)

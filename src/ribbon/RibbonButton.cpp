@@ -11,6 +11,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 
 namespace VornFrame {
 
@@ -22,13 +23,13 @@ QMenu *RibbonButtonPrivate::menu() const
 
 bool RibbonButtonPrivate::isSplit() const
 {
-    return menu() && q_ptr->popupMode() != QToolButton::InstantPopup;
+    return menu() != nullptr && q_ptr->popupMode() != QToolButton::InstantPopup;
 }
 
 QString RibbonButtonPrivate::text() const
 {
     const QAction *action = q_ptr->defaultAction();
-    const QString marked = action ? action->text() : q_ptr->text();
+    QString marked = action ? action->text() : q_ptr->text();
     if (!marked.contains(u'&'))
         return marked;
     QString plain;
@@ -43,7 +44,7 @@ QString RibbonButtonPrivate::text() const
 QSize RibbonButtonPrivate::textSize() const
 {
     const QString string = text();
-    if (string != measuredText || q_ptr->font() != measuredFont) {
+    if (!measuredSize.isValid() || string != measuredText || q_ptr->font() != measuredFont) {
         measuredText = string;
         measuredFont = q_ptr->font();
         measuredSize = measure(string);
@@ -54,15 +55,18 @@ QSize RibbonButtonPrivate::textSize() const
 QSize RibbonButtonPrivate::measure(const QString &string) const
 {
     const QFontMetrics metrics = q_ptr->fontMetrics();
-    if (!isLarge() || !string.contains(u'\n'))
+    if (!isLarge())
         return {metrics.horizontalAdvance(string), metrics.height()};
+    if (!string.contains(u'\n'))
+        return metrics.size(Qt::TextSingleLine, string);
     QSize size = metrics.size(Qt::TextWordWrap, string);
     // Word-wrapped without a width, every word stands on a line of its own; two lines are meant as
     // they are.
     const QStringList lines = string.split(u'\n');
-    if (lines.size() == 2)
-        size.setWidth(
-            qMax(metrics.horizontalAdvance(lines.at(0)), metrics.horizontalAdvance(lines.at(1))));
+    if (lines.size() == 2) {
+        const int first = metrics.size(Qt::TextSingleLine, lines.at(0)).width();
+        size.setWidth(qMax(first, metrics.size(Qt::TextSingleLine, lines.at(1)).width()));
+    }
     return size;
 }
 
@@ -91,6 +95,14 @@ QRect RibbonButtonPrivate::menuRectFor(QSize size) const
     const int left = smallLeftMargin + smallTextSpacing + smallIconSize.width() + menuGap
                      + textWidth;
     return {left, 0, arrowSize.width() - menuGap + arrowRightMargin + menuRightPart, size.height()};
+}
+
+void RibbonButtonPrivate::applySize()
+{
+    textWidth = textSize().width();
+    const QSize size = sizeFor(textWidth);
+    menuRect = menuRectFor(size);
+    q_ptr->setFixedSize(size);
 }
 
 void RibbonButtonPrivate::updateOverMenuPart(QPoint position)
@@ -153,12 +165,16 @@ bool RibbonButton::event(QEvent *event)
 
 void RibbonButton::changeEvent(QEvent *event)
 {
+    Q_D(RibbonButton);
     // On a change of style the base class asks for margins and delays that this button has no use
     // for, and below a style sheet each question costs a search through all rules.
     if (event->type() != QEvent::StyleChange)
         QToolButton::changeEvent(event);
     else if (testAttribute(Qt::WA_WState_Polished))
-        QAbstractButton::changeEvent(event);
+        QAbstractButton::changeEvent(event); // NOLINT(bugprone-parent-virtual-call)
+    const bool sized = minimumSize() == maximumSize();
+    if (event->type() == QEvent::FontChange && sized)
+        d->applySize();
 }
 
 void RibbonButton::mousePressEvent(QMouseEvent *event)
@@ -180,7 +196,20 @@ void RibbonButton::mousePressEvent(QMouseEvent *event)
             return;
         d->menuPressed = true;
     }
+    const QPointer<RibbonButton> self(this);
     showMenu();
+    if (self && !d->menu()) {
+        // A menu that was deleted while it was open has not told that it closed.
+        d->hovered = false;
+        setDown(false);
+    }
+}
+
+void RibbonButton::mouseReleaseEvent(QMouseEvent *event)
+{
+    // QToolButton's own handler goes on with the button after the click (Qt 6.4), and the command may
+    // have deleted it by then.
+    QAbstractButton::mouseReleaseEvent(event); // NOLINT(bugprone-parent-virtual-call)
 }
 
 void RibbonButton::mouseMoveEvent(QMouseEvent *event)
@@ -195,6 +224,8 @@ void RibbonButton::enterEvent(QEnterEvent *event)
 {
     Q_D(RibbonButton);
     d->hovered = true;
+    // Not every style repaints a button when the pointer comes and goes.
+    update();
     QToolButton::enterEvent(event);
 }
 
@@ -202,6 +233,7 @@ void RibbonButton::leaveEvent(QEvent *event)
 {
     Q_D(RibbonButton);
     d->hovered = false;
+    update();
     QToolButton::leaveEvent(event);
 }
 
@@ -222,10 +254,7 @@ void RibbonButton::resizeEvent(QResizeEvent *event)
 {
     Q_D(RibbonButton);
     QToolButton::resizeEvent(event);
-    d->textWidth = d->textSize().width();
-    const QSize size = d->sizeFor(d->textWidth);
-    d->menuRect = d->menuRectFor(size);
-    setFixedSize(size);
+    d->applySize();
 }
 
 } // namespace VornFrame

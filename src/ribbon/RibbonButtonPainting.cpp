@@ -6,6 +6,7 @@
 #include "core/Pixmaps.h"
 #include "core/ResourcePaths.h"
 
+#include <QPaintEngine>
 #include <QPainter>
 #include <QStyle>
 
@@ -35,14 +36,15 @@ QRect RibbonButtonPrivate::iconRect() const
 
 QRect RibbonButtonPrivate::textRect() const
 {
-    const QSize size = textSize();
     if (isLarge()) {
         const int x = qMax(largeTextMargin, (q_ptr->width() - textWidth) / 2);
-        return mirrored(
-            {QPoint(x, largeTopMargin + largeIconSize.height() + largeTextSpacing), size});
+        const int y = largeTopMargin + largeIconSize.height() + largeTextSpacing;
+        return mirrored({QPoint(x, y), textSize()});
     }
+    const QFontMetrics metrics = q_ptr->fontMetrics();
     const int x = smallLeftMargin + smallIconSize.width() + smallTextSpacing;
-    return mirrored({QPoint(x, (q_ptr->height() - q_ptr->fontMetrics().height()) / 2), size});
+    const int y = (q_ptr->height() - metrics.height()) / 2;
+    return mirrored({QPoint(x, y), metrics.size(Qt::TextSingleLine, text())});
 }
 
 QRect RibbonButtonPrivate::arrowRect() const
@@ -61,22 +63,9 @@ QRect RibbonButtonPrivate::menuPart() const
     return mirrored(menuRect);
 }
 
-QRect RibbonButtonPrivate::mainPart() const
-{
-    if (isLarge())
-        return {0, 0, q_ptr->width(), q_ptr->height() - menuRect.height()};
-    return mirrored({0, 0, q_ptr->width() - menuRect.width(), q_ptr->height()});
-}
-
-QRect RibbonButtonPrivate::dividerRect() const
-{
-    if (isLarge())
-        return {1, menuRect.top(), q_ptr->width() - 2, 1};
-    return mirrored({menuRect.left(), 1, 1, q_ptr->height() - 2});
-}
-
 const QPen &RibbonButtonPrivate::dividerPen() const
 {
+    // Which part counts as hovered follows overMenuPart alone, as in drawHoveredPart().
     if (isLarge() && !overMenuPart)
         return lightPen;
     if (isLarge() && q_ptr->isDown())
@@ -86,12 +75,18 @@ const QPen &RibbonButtonPrivate::dividerPen() const
 
 void RibbonButtonPrivate::drawBackground(QPainter &painter) const
 {
+    painter.save();
+    // The background is drawn as in a left-to-right layout, into a mirrored painter where needed.
+    if (q_ptr->isRightToLeft()) {
+        painter.translate(q_ptr->width(), 0);
+        painter.scale(-1, 1);
+    }
     painter.translate(HalfPixel);
     if (isSplit())
         drawSplitBackground(painter);
     else
         drawPlainBackground(painter);
-    painter.translate(-HalfPixel);
+    painter.restore();
 }
 
 void RibbonButtonPrivate::drawSplitBackground(QPainter &painter) const
@@ -101,25 +96,29 @@ void RibbonButtonPrivate::drawSplitBackground(QPainter &painter) const
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(q_ptr->rect().adjusted(0, 0, -1, -1), radius, radius);
     painter.setPen(dividerPen());
-    const QRect divider = dividerRect();
-    painter.drawLine(divider.topLeft(), divider.bottomRight());
+    if (isLarge())
+        painter.drawLine(1, menuRect.top(), q_ptr->width() - 2, menuRect.top());
+    else
+        painter.drawLine(menuRect.left(), 1, menuRect.left(), q_ptr->height() - 2);
 }
 
 void RibbonButtonPrivate::drawHoveredPart(QPainter &painter) const
 {
-    const QRect part = overMenuPart ? menuPart() : mainPart();
+    QRect part = menuRect;
+    if (!overMenuPart) {
+        const QSize menu = menuRect.size();
+        part = isLarge() ? q_ptr->rect().adjusted(0, 0, 0, -menu.height())
+                         : q_ptr->rect().adjusted(0, 0, -menu.width(), 0);
+    }
     // Only the outer corners are round: the half that touches the other part is filled up to its
     // corners.
     QRect innerHalf = part;
-    if (isLarge()) {
+    if (isLarge())
         innerHalf.setHeight(part.height() / 2);
-        if (!overMenuPart)
-            innerHalf.moveBottom(part.bottom());
-    } else {
+    else
         innerHalf.setWidth(part.width() / 2);
-        if (overMenuPart == q_ptr->isRightToLeft())
-            innerHalf.moveRight(part.right());
-    }
+    if (!overMenuPart)
+        innerHalf.moveBottomRight(part.bottomRight());
     painter.setPen(Qt::NoPen);
     painter.setBrush(q_ptr->isDown() || q_ptr->isChecked() ? pressedBrush : normalBrush);
     painter.drawRoundedRect(part, radius, radius);
@@ -138,6 +137,7 @@ void RibbonButtonPrivate::drawPlainBackground(QPainter &painter) const
 
 void RibbonButtonPrivate::drawIcon(QPainter &painter) const
 {
+    // An icon with a picture of its own for the checked state shows it.
     q_ptr->icon().paint(&painter, iconRect(), Qt::AlignCenter,
                         q_ptr->isEnabled() ? QIcon::Normal : QIcon::Disabled,
                         q_ptr->isChecked() ? QIcon::On : QIcon::Off);
@@ -162,8 +162,10 @@ void RibbonButtonPrivate::drawArrow(QPainter &painter) const
     if (!menu() || (!isLarge() && !isSmall()))
         return;
     const QIcon::Mode mode = q_ptr->isEnabled() ? QIcon::Normal : QIcon::Disabled;
-    painter.drawPixmap(arrowRect(), Pixmaps::rendered(ResourcePaths::Arrow, arrowSize,
-                                                      q_ptr->devicePixelRatioF(), mode));
+    // Not the ratio of the widget, which may be rendered into an image of another one.
+    const qreal ratio = painter.paintEngine()->paintDevice()->devicePixelRatioF();
+    painter.drawPixmap(arrowRect(),
+                       Pixmaps::rendered(ResourcePaths::Arrow, arrowSize, ratio, mode));
 }
 
 } // namespace VornFrame

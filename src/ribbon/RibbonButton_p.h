@@ -48,14 +48,15 @@ public:
     /// The menu part of a button of the given size, in a left-to-right layout.
     QRect menuRectFor(QSize size) const;
 
+    /// Makes the size that the text asks for the button's fixed size.
+    void applySize();
+
     /// Where the parts of the button are, mirrored in a right-to-left layout. Painting and hit
     /// tests both take them from here.
     QRect iconRect() const;
     QRect textRect() const;
     QRect arrowRect() const;
     QRect menuPart() const;
-    QRect mainPart() const;
-    QRect dividerRect() const;
     QRect mirrored(const QRect &rect) const;
 
     void updateOverMenuPart(QPoint position);

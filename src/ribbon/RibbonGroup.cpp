@@ -35,8 +35,9 @@ void RibbonGroupPrivate::init(const QString &title)
     titleLabel->setAlignment(Qt::AlignCenter);
     titleLabel->setFixedHeight(TitleHeight);
     QFont titleFont = titleLabel->font();
-    titleFont.setPixelSize(TitleFontSize);
+    titleFont.setPixelSize(qMin(TitleFontSize, QFontInfo(titleFont).pixelSize()));
     titleLabel->setFont(titleFont);
+    titleLabel->setTextFormat(Qt::PlainText);
     titleLabel->setObjectName(u"groupTitle"_s);
     titleLabel->installEventFilter(q_ptr);
     actionsLayout->setContentsMargins(0, 0, 0, 0);

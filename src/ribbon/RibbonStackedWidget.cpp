@@ -12,36 +12,6 @@ namespace VornFrame {
 namespace {
 
 constexpr int StackHeight = 95;
-constexpr const char *WaitingFocusPolicy = "vornFrameFocusPolicy";
-
-/// Moves a shown page out of sight, and its widgets out of the reach of Tab. The page keeps its
-/// size, so that its layout stays as it will be seen.
-void letWait(QWidget *page, const QRect &area)
-{
-    page->setGeometry(area.translated(0, -area.height()));
-    page->lower();
-    const QList<QWidget *> widgets = page->findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
-        if (widget->focusPolicy() == Qt::NoFocus)
-            continue;
-        widget->setProperty(WaitingFocusPolicy, int(widget->focusPolicy()));
-        widget->setFocusPolicy(Qt::NoFocus);
-    }
-}
-
-/// Undoes letWait().
-void endWait(QWidget *page, const QRect &area)
-{
-    page->setGeometry(area);
-    const QList<QWidget *> widgets = page->findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
-        const QVariant policy = widget->property(WaitingFocusPolicy);
-        if (!policy.isValid())
-            continue;
-        widget->setFocusPolicy(Qt::FocusPolicy(policy.toInt()));
-        widget->setProperty(WaitingFocusPolicy, {});
-    }
-}
 
 } // namespace
 
@@ -56,9 +26,35 @@ QSize RibbonStackedWidgetPrivate::largestOfSeenPages(QSize (QWidget::*hint)() co
     for (int i = 0; i < q_ptr->count(); ++i) {
         const QWidget *page = q_ptr->widget(i);
         if (i == q_ptr->currentIndex() || seenPages.contains(page))
-            size = size.expandedTo((page->*hint)());
+            size = size.expandedTo((page->*hint)()).expandedTo(page->minimumSize());
     }
-    return size;
+    return size.grownBy(q_ptr->contentsMargins());
+}
+
+void RibbonStackedWidgetPrivate::letWait(QWidget *page)
+{
+    // The page keeps its size, so that its layout stays as it will be seen.
+    const QRect area = q_ptr->contentsRect();
+    page->setGeometry(area.translated(0, -area.height()));
+    page->lower();
+    QList<FocusPolicy> &policies = waitingPages[page];
+    const QList<QWidget *> widgets = page->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        // A widget with a proxy would hand the change on to it; Tab passes it anyway.
+        if (widget->focusPolicy() == Qt::NoFocus || widget->focusProxy())
+            continue;
+        policies.append({widget, widget->focusPolicy()});
+        widget->setFocusPolicy(Qt::NoFocus);
+    }
+}
+
+void RibbonStackedWidgetPrivate::endWait(const QWidget *page)
+{
+    const QList<FocusPolicy> policies = waitingPages.take(page);
+    for (const auto &[widget, policy] : policies) {
+        if (widget && widget->focusPolicy() == Qt::NoFocus)
+            widget->setFocusPolicy(policy);
+    }
 }
 
 void RibbonStackedWidgetPrivate::bringCurrentPageForward()
@@ -66,10 +62,33 @@ void RibbonStackedWidgetPrivate::bringCurrentPageForward()
     QWidget *page = q_ptr->currentWidget();
     if (!page)
         return;
-    if (waitingPages.remove(page))
-        endWait(page, q_ptr->contentsRect());
+    if (waitingPages.contains(page)) {
+        endWait(page);
+        page->setGeometry(q_ptr->contentsRect());
+    }
     if (q_ptr->isVisible())
         seenPages.insert(page);
+}
+
+void RibbonStackedWidgetPrivate::forgetMissingPages()
+{
+    const auto isMissing = [this](const QWidget *page) {
+        for (int i = 0; i < q_ptr->count(); ++i) {
+            if (q_ptr->widget(i) == page)
+                return false;
+        }
+        return true;
+    };
+    const QList<const QWidget *> waiting = waitingPages.keys();
+    for (const QWidget *page : waiting) {
+        if (isMissing(page))
+            endWait(page);
+    }
+    const QSet<const QWidget *> seen = seenPages;
+    for (const QWidget *page : seen) {
+        if (isMissing(page))
+            seenPages.remove(page);
+    }
 }
 
 RibbonStackedWidget::RibbonStackedWidget(QWidget *parent)
@@ -79,6 +98,7 @@ RibbonStackedWidget::RibbonStackedWidget(QWidget *parent)
     d->q_ptr = this;
     setFixedHeight(StackHeight);
     connect(this, &QStackedWidget::currentChanged, this, [d] { d->bringCurrentPageForward(); });
+    connect(this, &QStackedWidget::widgetRemoved, this, [d] { d->forgetMissingPages(); });
 }
 
 RibbonStackedWidget::~RibbonStackedWidget() = default;
@@ -102,8 +122,11 @@ RibbonPage *RibbonStackedWidget::addPage(const QString &title)
 void RibbonStackedWidget::hidePage(int index)
 {
     Q_D(RibbonStackedWidget);
-    if (RibbonPage *page = d->reachablePage(index))
-        page->hide();
+    RibbonPage *page = d->reachablePage(index);
+    if (!page)
+        return;
+    page->hide();
+    d->endWait(page);
 }
 
 void RibbonStackedWidget::showPage(int index)
@@ -112,12 +135,9 @@ void RibbonStackedWidget::showPage(int index)
     RibbonPage *page = d->reachablePage(index);
     if (!page)
         return;
-    // The stack lays out its current page only, and a shown page would be seen through the gaps of
-    // that one.
-    if (page != currentWidget()) {
-        letWait(page, contentsRect());
-        d->waitingPages.insert(page);
-    }
+    // The stack lays out its current page only, and would let another one be seen through its gaps.
+    if (page != currentWidget())
+        d->letWait(page);
     page->show();
 }
 

@@ -4,11 +4,12 @@
 #pragma once
 
 #include <QHash>
+#include <QList>
+#include <QPointer>
 #include <QSet>
 #include <QSize>
 #include <QString>
-
-class QWidget;
+#include <QWidget>
 
 namespace VornFrame {
 
@@ -18,6 +19,12 @@ class RibbonStackedWidget;
 class RibbonStackedWidgetPrivate
 {
 public:
+    struct FocusPolicy
+    {
+        QPointer<QWidget> widget;
+        Qt::FocusPolicy policy;
+    };
+
     /// The page that hidePage() and showPage() reach at \a index, null beyond the number of
     /// distinct titles.
     RibbonPage *reachablePage(int index) const;
@@ -25,11 +32,17 @@ public:
     /// The largest of what \a hint gives for the current page and those seen before it.
     QSize largestOfSeenPages(QSize (QWidget::*hint)() const) const;
 
+    /// Moves a shown page out of sight, and its widgets out of the reach of Tab, until it is the
+    /// current one or is hidden.
+    void letWait(QWidget *page);
+    void endWait(const QWidget *page);
+
     void bringCurrentPageForward();
+    void forgetMissingPages();
 
     QHash<QString, RibbonPage *> pagesByTitle; ///< two pages of one title share an entry
     QSet<const QWidget *> seenPages; ///< those that were the current one in a visible stack
-    QSet<const QWidget *> waitingPages; ///< those shown without being the current one
+    QHash<const QWidget *, QList<FocusPolicy>> waitingPages; ///< what their widgets had before
     RibbonStackedWidget *q_ptr = nullptr;
 };
 

@@ -102,7 +102,7 @@ bool RibbonTabBar::isTemporary(int index) const
 {
     Q_D(const RibbonTabBar);
     const RibbonTab *tab = d->tab(index);
-    return tab && tab->isTemporary();
+    return tab != nullptr && tab->isTemporary();
 }
 
 void RibbonTabBar::paintEvent(QPaintEvent *event)

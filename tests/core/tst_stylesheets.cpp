@@ -6,6 +6,7 @@
 #include "support/TestCase.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QFile>
 #include <QScopeGuard>
 
@@ -25,6 +26,23 @@ QString textOf(const QString &path)
     return qScopeGuard([sheet = qApp->styleSheet()] { qApp->setStyleSheet(sheet); });
 }
 
+class StyleChangeCounter : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit StyleChangeCounter(QObject *watched) { watched->installEventFilter(this); }
+
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        if (event->type() == QEvent::StyleChange)
+            ++count;
+        return false;
+    }
+
+    int count = 0;
+};
+
 } // namespace
 
 class tst_StyleSheets : public TestCase
@@ -42,6 +60,7 @@ private Q_SLOTS:
     void theGlobalSheetStandsBehindTheOneOfTheWindow();
     void theGlobalSheetReplacesTheSheetOfTheApplication();
     void installingAgainDoesNotPileUp();
+    void installingAgainPolishesNothingAnew();
     void aLaterWindowTakesTheApplicationOver();
 };
 
@@ -139,6 +158,20 @@ void tst_StyleSheets::installingAgainDoesNotPileUp()
     StyleSheets::installGlobalSheet(&window);
 
     QCOMPARE(qApp->styleSheet(), once);
+}
+
+void tst_StyleSheets::installingAgainPolishesNothingAnew()
+{
+    const auto restored = restoredApplicationSheet();
+    QWidget window;
+    StyleSheets::installGlobalSheet(&window);
+    window.ensurePolished();
+    StyleChangeCounter counter(&window);
+
+    StyleSheets::installGlobalSheet(&window);
+    QCOMPARE(counter.count, 0);
+    qApp->setStyleSheet(u"QLabel { color: red; }"_s);
+    QVERIFY(counter.count > 0);
 }
 
 void tst_StyleSheets::aLaterWindowTakesTheApplicationOver()

@@ -507,7 +507,8 @@ void tst_VornFrameAgent::deletingTheAgentOnAPageChangeIsHarmless()
     RibbonBar *bar = dressed.agent->ribbonBar();
     bar->addPage(u"First"_s);
     bar->addPage(u"Second"_s);
-    connect(bar, &RibbonBar::signalCurrentPageChanged, this, [&dressed] { dressed.agent.reset(); });
+    auto *agent = &dressed.agent;
+    connect(bar, &RibbonBar::signalCurrentPageChanged, this, [agent] { agent->reset(); });
     QVERIFY(Input::show(dressed.dialog.get()));
     Input::click(bar->findChildren<QPushButton *>().at(1));
     QVERIFY(!dressed.agent);

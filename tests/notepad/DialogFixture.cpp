@@ -94,7 +94,7 @@ QByteArray DialogFixture::bytesOf(const QString &path)
 
 QString DialogFixture::openFile(const QString &name, const QByteArray &bytes) const
 {
-    const QString file = createFile(name, bytes);
+    QString file = createFile(name, bytes);
     if (!m_dialog->document()->load(file).ok())
         qFatal("a file of the test could not be opened");
     return file;

@@ -18,8 +18,8 @@ namespace VornFrame {
 class RibbonBar;
 }
 
-/// The base of the tests of the whole window: each function finds it shown and active, with an empty text, and
-/// an empty folder for its files.
+/// The base of the tests of the whole window: each function finds it shown and active, with an
+/// empty text, and an empty folder for its files.
 class DialogFixture : public TestCase
 {
     Q_OBJECT

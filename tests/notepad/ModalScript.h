@@ -10,10 +10,11 @@
 
 #include <functional>
 
-/// What a person answers to the modal windows that the next action of the test opens, one after another.
+/// What a person answers to the modal windows that the next action of the test opens, one after
+/// another.
 ///
-/// A window of another kind than the next answer is for, or one too many, fails the test and is closed; so does an
-/// answer that nothing asked for, in the end.
+/// A window of another kind than the next answer is for, or one too many, fails the test and is
+/// closed; so does an answer that nothing asked for, in the end.
 class ModalScript final : public QObject
 {
     Q_OBJECT

@@ -11,8 +11,10 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QDir>
+#include <QDropEvent>
 #include <QFile>
 #include <QFileInfo>
+#include <QMimeData>
 
 using namespace Qt::StringLiterals;
 
@@ -32,6 +34,7 @@ private Q_SLOTS:
     void savedTextIsNotAskedFor();
     void escapeDoesNotCloseTheWindow();
     void openingCanBeGivenUp();
+    void aDroppedFileIsOpened();
     void savingAnUntitledTextAsksForAName();
     void closingAnUntitledTextWithoutANameGoesOn();
     void savesUnderAnotherName();
@@ -208,6 +211,23 @@ void tst_NotepadDocument::openingCanBeGivenUp()
     QVERIFY(script.isDone());
     QCOMPARE(editor()->text(), u"new\n"_s);
     QVERIFY(dialog()->isWindowModified());
+}
+
+void tst_NotepadDocument::aDroppedFileIsOpened()
+{
+    const QString file = createFile(u"a.txt"_s, "dropped\n");
+    change(u"mine"_s);
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(file)});
+    QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    ModalScript script;
+    script.answer(QMessageBox::Discard);
+    QCoreApplication::sendEvent(editor()->viewport(), &enter);
+    QVERIFY(enter.isAccepted());
+    QCoreApplication::sendEvent(editor()->viewport(), &drop);
+    QTRY_VERIFY(script.isDone());
+    QCOMPARE(editor()->text(), u"dropped\n"_s);
 }
 
 void tst_NotepadDocument::savingAnUntitledTextAsksForAName()

@@ -122,6 +122,6 @@ void tst_NotepadProgram::helpNamesTheOptions()
     QVERIFY(outcome.output.contains(u"[FILE]"_s));
 }
 
-QTEST_APPLESS_MAIN(tst_NotepadProgram)
+QTEST_GUILESS_MAIN(tst_NotepadProgram)
 
 #include "tst_notepadprogram.moc"

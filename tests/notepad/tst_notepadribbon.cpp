@@ -29,6 +29,16 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+template <typename... Widgets>
+bool isOneOf(const QWidget *widget)
+{
+    return ((qobject_cast<const Widgets *>(widget) != nullptr) || ...);
+}
+
+} // namespace
+
 /// The window's ribbon: its pages, buttons, menus and keys.
 class tst_NotepadRibbon final : public DialogFixture
 {
@@ -329,14 +339,10 @@ void tst_NotepadRibbon::everyWidgetToUseHasAName()
     int count = 0;
     for (QWidget *widget : widgets) {
         const QWidget *parent = widget->parentWidget();
-        const bool isPart = qobject_cast<const QAbstractSpinBox *>(parent)
-                            || qobject_cast<const QComboBox *>(parent)
-                            || qobject_cast<const QLineEdit *>(parent);
-        const bool isUsed = qobject_cast<QAbstractButton *>(widget)
-                            || qobject_cast<QLineEdit *>(widget)
-                            || qobject_cast<QAbstractSpinBox *>(widget)
-                            || qobject_cast<QComboBox *>(widget)
-                            || qobject_cast<QPlainTextEdit *>(widget);
+        const bool isPart = isOneOf<QAbstractSpinBox, QComboBox, QLineEdit>(parent);
+        const bool isUsed =
+            isOneOf<QAbstractButton, QLineEdit, QAbstractSpinBox, QComboBox, QPlainTextEdit>(
+                widget);
         if (isPart || !isUsed)
             continue;
         ++count;

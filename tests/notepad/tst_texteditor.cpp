@@ -193,10 +193,15 @@ void tst_TextEditor::lineNumbersTakeTheirRoomAndGiveItBack()
     TextEditor editor;
     QVERIFY(Input::show(&editor));
     QCOMPARE(editor.viewport()->x(), editor.lineNumberWidth());
+    const int width = editor.viewport()->width();
     editor.setLineNumbersVisible(false);
     QCOMPARE(editor.viewport()->x(), 0);
+    QCOMPARE(editor.viewport()->width(), width + editor.lineNumberWidth());
     editor.setLineNumbersVisible(true);
     QCOMPARE(editor.viewport()->x(), editor.lineNumberWidth());
+    editor.setLayoutDirection(Qt::RightToLeft);
+    QCOMPARE(editor.viewport()->x(), 0);
+    QCOMPARE(editor.viewport()->width(), width);
 }
 
 void tst_TextEditor::lineNumbersWidenWithTheirDigits()
@@ -223,11 +228,11 @@ void tst_TextEditor::theWheelZoomsWithCtrlOnly()
     turn(120, Qt::NoModifier);
     QCOMPARE(zoomed.size(), 0);
     turn(240, Qt::ControlModifier);
-    QCOMPARE(zoomed.takeFirst().first().toInt(), 2);
+    QCOMPARE(zoomed.takeFirst().at(0).toInt(), 2);
     turn(-60, Qt::ControlModifier);
     QCOMPARE(zoomed.size(), 0);
     turn(-60, Qt::ControlModifier);
-    QCOMPARE(zoomed.takeFirst().first().toInt(), -1);
+    QCOMPARE(zoomed.takeFirst().at(0).toInt(), -1);
 }
 
 void tst_TextEditor::marksCoverTheFoundPlaces()

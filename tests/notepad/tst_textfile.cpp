@@ -284,7 +284,7 @@ void tst_TextFile::aFileThatHidesItsSizeIsRead()
 {
     const QString name = u"/proc/self/status"_s;
     if (!QFileInfo::exists(name))
-        QSKIP("this system has no such files");
+        return; // another system than Linux
     QCOMPARE(QFileInfo(name).size(), 0);
     TextFile file;
     QVERIFY(file.load(name).ok());
@@ -309,8 +309,9 @@ void tst_TextFile::whatIsNoTextFileIsRefused_data()
     };
     QTest::newRow("missing") << u"missing.txt"_s << QByteArray() << TextFile::Error::NotFound;
     QTest::newRow("folder") << u"."_s << QByteArray() << TextFile::Error::NotRegular;
-    QTest::newRow("unreadable") << u"/proc/self/mem"_s << QByteArray()
-                                << TextFile::Error::ReadFailed;
+    const QString unreadable = u"/proc/self/mem"_s; // on Linux, not even for root
+    if (QFileInfo::exists(unreadable))
+        QTest::newRow("unreadable") << unreadable << QByteArray() << TextFile::Error::ReadFailed;
     add("NUL", QByteArray("a\0b", 3), TextFile::Error::Binary);
     add("UTF-16",
         QByteArray("\xFF\xFE"
@@ -330,8 +331,6 @@ void tst_TextFile::whatIsNoTextFileIsRefused()
     QFETCH(const QByteArray, bytes);
     createFile(u"a.txt"_s, bytes);
     const QString file = QDir(m_folder->path()).absoluteFilePath(name);
-    if (name.startsWith(u"/proc"_s) && !QFileInfo::exists(name))
-        QSKIP("this system has no such files");
     const TextFile::Status status = TextFile().load(file);
     QTEST(status.error, "error");
     QVERIFY(!status.ok());
@@ -516,6 +515,6 @@ void tst_TextFile::noticesThatTheFileChanged()
     QVERIFY(file.isChangedOnDisk());
 }
 
-QTEST_APPLESS_MAIN(tst_TextFile)
+QTEST_GUILESS_MAIN(tst_TextFile)
 
 #include "tst_textfile.moc"

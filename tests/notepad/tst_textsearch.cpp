@@ -123,6 +123,6 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_TextSearch)
+QTEST_GUILESS_MAIN(tst_TextSearch)
 
 #include "tst_textsearch.moc"

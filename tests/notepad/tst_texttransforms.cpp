@@ -81,6 +81,6 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(tst_TextTransforms)
+QTEST_GUILESS_MAIN(tst_TextTransforms)
 
 #include "tst_texttransforms.moc"

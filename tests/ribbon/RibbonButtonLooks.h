@@ -125,7 +125,10 @@ public:
     {
         const QString text = look.text();
         const QStringList lines = text.split(u'\n');
-        if (!look.isLarge() || lines.size() == 1) {
+        if (look.isLarge() && lines.size() == 1) {
+            m_text = metrics.size(Qt::TextSingleLine, text);
+            m_textWidth = m_text.width();
+        } else if (!look.isLarge()) {
             // On a single line, a line break is painted as a space.
             m_text.setWidth(metrics.horizontalAdvance(QString(text).replace(u'\n', u' ')));
             m_text.setHeight(metrics.size(Qt::TextSingleLine, text).height());
@@ -133,8 +136,8 @@ public:
         } else {
             m_text = metrics.size(Qt::TextWordWrap, text);
             if (lines.size() == 2)
-                m_text.setWidth(qMax(metrics.horizontalAdvance(lines.at(0)),
-                                     metrics.horizontalAdvance(lines.at(1))));
+                m_text.setWidth(qMax(metrics.size(Qt::TextSingleLine, lines.at(0)).width(),
+                                     metrics.size(Qt::TextSingleLine, lines.at(1)).width()));
             m_textWidth = m_text.width();
         }
     }
@@ -242,8 +245,9 @@ public:
         m_button.setToolButtonStyle(style());
         m_button.setAction(action);
         m_button.setPopupMode(popupMode());
-        m_button.resize(m_button.sizeHint());
-        ImageChecks::rendered(&m_button, 1); // gives a hidden widget its resize event
+        // The button takes its own size, whatever it is given, with the event that rendering sends.
+        m_button.resize(150, 150);
+        ImageChecks::rendered(&m_button, 1);
         if (look.isHovered())
             hover(look.isOverMenuPart());
         m_button.setDown(look.isDown());

@@ -5,6 +5,7 @@
 #include <VornFrame/RibbonCorner.h>
 #include <VornFrame/RibbonGroup.h>
 #include <VornFrame/RibbonPage.h>
+#include <VornFrame/RibbonSubgroup.h>
 
 #include "ribbon/RibbonBar_p.h"
 #include "ribbon/RibbonTab.h"
@@ -12,14 +13,17 @@
 #include "support/PopupDriver.h"
 #include "support/TestCase.h"
 
+#include <QAction>
 #include <QFile>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <limits>
 #include <memory>
 
@@ -159,6 +163,14 @@ private Q_SLOTS:
     void pagesMayBeAddedWhenAPageIsShown();
     void theCornerIsAlwaysTheSame();
     void aDeletedCornerIsNotMissed();
+
+    void theSheetStaysWhenTheBarIsPlaced_data();
+    void theSheetStaysWhenTheBarIsPlaced();
+    void aFilledBarStaysUnseenUntilItIsShown();
+    void pagesLookTheSameWheneverTheyAreShown();
+    void hiddenPagesAreNotPolishedBeforeTheyAreSeen();
+    void aPageShownBehindMayMoveToAnotherBar();
+    void theMnemonicOfATitleClicksItsTab();
 
     void tabsAreAtLeastAHundredPixelsWide();
     void everythingIsMirroredFromRightToLeft();
@@ -866,6 +878,152 @@ void tst_RibbonBar::aDeletedCornerIsNotMissed()
     QCOMPARE(bar.currentPage(), bar.page(1));
 }
 
+void tst_RibbonBar::theSheetStaysWhenTheBarIsPlaced_data()
+{
+    QTest::addColumn<QString>("sheet");
+    QTest::addColumn<bool>("filledBefore");
+
+    const QString own = u"QLabel { color: red; }"_s;
+    QTest::newRow("the bar's sheet, filled before") << RibbonBar().styleSheet() << true;
+    QTest::newRow("the bar's sheet, filled after") << RibbonBar().styleSheet() << false;
+    QTest::newRow("the application's sheet, filled before") << own << true;
+    QTest::newRow("the application's sheet, filled after") << own << false;
+    QTest::newRow("no sheet, filled before") << QString() << true;
+}
+
+void tst_RibbonBar::theSheetStaysWhenTheBarIsPlaced()
+{
+    QFETCH(const QString, sheet);
+    QFETCH(const bool, filledBefore);
+    QWidget first;
+    QWidget second;
+    auto *bar = new RibbonBar;
+    bar->setStyleSheet(sheet);
+    if (filledBefore)
+        addPages(bar, {u"Home"_s, u"View"_s});
+    bar->setWindowFlag(Qt::Tool);
+    QCOMPARE(bar->styleSheet(), sheet);
+    bar->setParent(&first);
+    QCOMPARE(bar->styleSheet(), sheet);
+    if (!filledBefore)
+        addPages(bar, {u"Home"_s, u"View"_s});
+    first.resize(600, 200);
+    QVERIFY(Input::show(&first));
+    QCOMPARE(bar->styleSheet(), sheet);
+    bar->setParent(&second);
+    QCOMPARE(bar->styleSheet(), sheet);
+    bar->setParent(nullptr);
+    QCOMPARE(bar->styleSheet(), sheet);
+    bar->setParent(&second);
+    QCOMPARE(bar->styleSheet(), sheet);
+}
+
+void tst_RibbonBar::aFilledBarStaysUnseenUntilItIsShown()
+{
+    RibbonBar bar;
+    addPages(&bar, {u"Home"_s, u"View"_s});
+    QCoreApplication::processEvents();
+    QVERIFY(!bar.isVisible());
+    QVERIFY(Input::show(&bar));
+    QVERIFY(bar.page(0)->isVisible());
+}
+
+void tst_RibbonBar::pagesLookTheSameWheneverTheyAreShown()
+{
+    QAction action(u"Paste"_s);
+    const auto fill = [&action](RibbonBar *bar) {
+        for (const auto &title : {u"Home"_s, u"View"_s}) {
+            RibbonGroup *group = bar->addPage(title)->addGroup(u"Clipboard"_s);
+            group->addAction(&action);
+            group->addSeparator();
+            group->addSubgroup()->addAction(&action);
+            auto *edit = new QLineEdit;
+            edit->setFocusPolicy(Qt::NoFocus); // a focused one looks different
+            group->addWidget(edit);
+        }
+    };
+    // One bar is filled before it has its window, one afterwards, and one shows the other page.
+    QList<QImage> images;
+    for (int way = 0; way < 3; ++way) {
+        QWidget window;
+        auto *layout = new QVBoxLayout(&window);
+        layout->setContentsMargins(0, 0, 0, 0);
+        auto *bar = new RibbonBar;
+        if (way == 0)
+            fill(bar);
+        layout->addWidget(bar);
+        window.resize(600, 123);
+        if (way == 1)
+            QVERIFY(Input::show(&window));
+        if (way > 0)
+            fill(bar);
+        if (way != 1)
+            QVERIFY(Input::show(&window));
+        if (way == 2)
+            bar->setCurrentIndex(1);
+        QCoreApplication::processEvents();
+        images.append(stackOf(*bar)->grab().toImage());
+    }
+    QCOMPARE(images.at(1), images.at(0));
+    QCOMPARE(images.at(2), images.at(0));
+}
+
+void tst_RibbonBar::hiddenPagesAreNotPolishedBeforeTheyAreSeen()
+{
+    QAction action(u"Paste"_s);
+    QWidget window;
+    auto *layout = new QVBoxLayout(&window);
+    auto *bar = new RibbonBar;
+    addPages(bar, {u"Home"_s, u"View"_s});
+    RibbonGroup *group = bar->page(1)->addGroup(u"Clipboard"_s);
+    group->addAction(&action);
+    group->addSeparator();
+    group->addSubgroup()->addAction(&action);
+    layout->addWidget(bar);
+    QVERIFY(Input::show(&window));
+    QCoreApplication::processEvents();
+
+    const QList<QWidget *> widgets = group->findChildren<QWidget *>();
+    QVERIFY(widgets.size() >= 6);
+    const auto isPolished = [](const QWidget *widget) {
+        return widget->testAttribute(Qt::WA_WState_Polished);
+    };
+    QCOMPARE(std::count_if(widgets.begin(), widgets.end(), isPolished), 0);
+    QVERIFY(!isPolished(group));
+    bar->setCurrentIndex(1);
+    QCOMPARE(std::count_if(widgets.begin(), widgets.end(), isPolished), widgets.size());
+    QCOMPARE(group->findChild<QLabel *>(u"groupTitle"_s)->palette().color(QPalette::WindowText),
+             QColor(97, 97, 97));
+}
+
+void tst_RibbonBar::aPageShownBehindMayMoveToAnotherBar()
+{
+    RibbonBar one;
+    addPages(&one, {u"Home"_s, u"View"_s});
+    auto *edit = new QLineEdit;
+    RibbonPage *page = one.page(1);
+    page->addGroup(u"Find"_s)->addWidget(edit);
+    QVERIFY(Input::show(&one));
+    one.showPage(1);
+    RibbonBar other;
+    other.addPage(u"View"_s, page);
+    other.resize(600, 123);
+    QVERIFY(Input::show(&other));
+    Input::click(edit);
+    QVERIFY(edit->hasFocus());
+}
+
+void tst_RibbonBar::theMnemonicOfATitleClicksItsTab()
+{
+    RibbonBar bar;
+    addPages(&bar, {u"&Home"_s, u"&View"_s});
+    const QSignalSpy spy(&bar, &RibbonBar::signalCurrentPageChanged);
+    QVERIFY(Input::show(&bar));
+    QTest::keyClick(&bar, Qt::Key_V, Qt::AltModifier);
+    QTRY_COMPARE(QList<QVariantList>(spy), QList<QVariantList>({{1}}));
+    QCOMPARE(bar.currentPage(), bar.page(1));
+}
+
 void tst_RibbonBar::tabsAreAtLeastAHundredPixelsWide()
 {
     RibbonBar bar;
@@ -899,7 +1057,8 @@ void tst_RibbonBar::everythingIsMirroredFromRightToLeft()
     QCOMPARE(tabAt(bar, 0)->geometry(), QRect(107, 3, 100, 25));
     QCOMPARE(tabAt(bar, 1)->geometry(), QRect(3, 3, 100, 25));
     QCOMPARE(bar.corner()->geometry(), QRect(0, 0, 55, 28));
-    QCOMPARE(first->geometry().right(), 599);
+    QCOMPARE(first->geometry().right(), 600 - 3 - 1);
+    QCOMPARE(label->x(), 5);
     QCOMPARE(second->geometry().right(), first->x() - 1);
 }
 

@@ -30,8 +30,8 @@ constexpr Qt::ToolButtonStyle Large = Qt::ToolButtonTextUnderIcon;
 constexpr Qt::ToolButtonStyle Small = Qt::ToolButtonTextBesideIcon;
 constexpr Qt::ToolButtonStyle IconOnly = Qt::ToolButtonIconOnly;
 
-/// Gives the record of a button to this test alone: naming a member in an explicit instantiation is allowed even
-/// where it is private.
+/// Gives the record of a button to this test alone: an explicit instantiation may name a member
+/// even where it is private.
 template <auto Member>
 struct RecordKey
 {
@@ -162,6 +162,7 @@ private Q_SLOTS:
     void isNeverNarrowerThan36Pixels();
     void theSizeIsFixedOnResizeOnly();
     void theSizeFollowsTheNextResize();
+    void isMeasuredAnewForAnotherFont();
     void showsTextWithoutMnemonicMarks_data();
     void showsTextWithoutMnemonicMarks();
     void theMenuPartFollowsTheSize_data();
@@ -522,6 +523,20 @@ void tst_RibbonButton::theSizeFollowsTheNextResize()
     const int textWidth = shown.button->fontMetrics().horizontalAdvance(action.text());
     QCOMPARE(shown.button->size(), QSize(textWidth + 34, 22));
     QCOMPARE(shown.record().menuRect.x(), 26 + textWidth);
+}
+
+void tst_RibbonButton::isMeasuredAnewForAnotherFont()
+{
+    QAction action(u"Options"_s);
+    ButtonWindow shown(&action, Small);
+    QVERIFY(shown.show());
+    QFont large = shown.button->font();
+    large.setPixelSize(20);
+    shown.button->setFont(large);
+    QResizeEvent resize(shown.button->size(), shown.button->size());
+    QCoreApplication::sendEvent(shown.button, &resize);
+    const int textWidth = QFontMetrics(large).horizontalAdvance(u"Options"_s);
+    QCOMPARE(shown.button->size(), QSize(textWidth + 34, 22));
 }
 
 void tst_RibbonButton::showsTextWithoutMnemonicMarks_data()

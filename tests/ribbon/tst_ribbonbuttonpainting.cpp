@@ -12,6 +12,7 @@
 #include <QStyle>
 #include <QStyleFactory>
 
+#include <algorithm>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -59,6 +60,8 @@ private Q_SLOTS:
     void iconIsNotScaled();
     void textStandsInItsRectangle_data();
     void textStandsInItsRectangle();
+    void twoLinesAreAsWideAsTheWiderOne();
+    void marksOfMnemonicsAreNotPainted_data();
     void marksOfMnemonicsAreNotPainted();
     void arrowFillsItsRectangle_data();
     void arrowFillsItsRectangle();
@@ -79,6 +82,7 @@ private Q_SLOTS:
     void closingTheMenuEndsTheHighlight();
     void enteringAndLeavingRepaint_data();
     void enteringAndLeavingRepaint();
+    void goingToTheOtherPartRepaints();
 };
 
 void tst_RibbonButtonPainting::wholePictureIsAsDescribed_data()
@@ -167,11 +171,30 @@ void tst_RibbonButtonPainting::textStandsInItsRectangle()
     QVERIFY(painted.right() >= rect.right() - 2);
 }
 
+void tst_RibbonButtonPainting::twoLinesAreAsWideAsTheWiderOne()
+{
+    const Look look{Form::Large, Menu::None, State::TwoLines, 1, Qt::LeftToRight};
+    Scene widerBelow(look);
+    QStringList lines = look.text().split(u'\n');
+    std::reverse(lines.begin(), lines.end());
+    Scene widerAbove(look, testIcon(), lines.join(u'\n'));
+    QCOMPARE(widerAbove.button()->size(), widerBelow.button()->size());
+}
+
+void tst_RibbonButtonPainting::marksOfMnemonicsAreNotPainted_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("first letter") << u"&Options"_s;
+    QTest::newRow("second letter") << u"O&ptions"_s;
+    QTest::newRow("last letter") << u"Option&s"_s;
+}
+
 void tst_RibbonButtonPainting::marksOfMnemonicsAreNotPainted()
 {
+    QFETCH(const QString, text);
     const Look look{Form::Small, Menu::None, State::Normal, 1, Qt::LeftToRight};
     Scene plain(look);
-    Scene marked(look, testIcon(), u"&Options"_s);
+    Scene marked(look, testIcon(), text);
     QCOMPARE(marked.button()->size(), plain.button()->size());
     VERIFY_IMAGE(ImageChecks::isSame(marked.image(), plain.image(), plain.geometry().whole()));
 }
@@ -356,17 +379,27 @@ void tst_RibbonButtonPainting::enteringAndLeavingRepaint_data()
 
 namespace {
 
-class PaintCounter : public QObject
+class PaintWatcher : public QObject
 {
 public:
-    int count = 0;
+    explicit PaintWatcher(QWidget *widget) { widget->installEventFilter(this); }
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
         if (event->type() == QEvent::Paint)
-            ++count;
+            m_hasPainted = true;
         return QObject::eventFilter(watched, event);
     }
+
+    bool hasPainted() const { return m_hasPainted; }
+    void reset()
+    {
+        QCoreApplication::processEvents();
+        m_hasPainted = false;
+    }
+
+private:
+    bool m_hasPainted = false;
 };
 
 } // namespace
@@ -385,13 +418,39 @@ void tst_RibbonButtonPainting::enteringAndLeavingRepaint()
     QVERIFY(Input::show(&window));
     Input::move(&window, QPoint(10, 10));
 
-    PaintCounter counter;
-    button->installEventFilter(&counter);
+    PaintWatcher watcher(button);
     Input::move(button);
-    QTRY_VERIFY(counter.count > 0);
-    counter.count = 0;
+    QTRY_VERIFY(watcher.hasPainted());
+    watcher.reset();
     Input::move(&window, QPoint(10, 10));
-    QTRY_VERIFY(counter.count > 0);
+    QTRY_VERIFY(watcher.hasPainted());
+}
+
+void tst_RibbonButtonPainting::goingToTheOtherPartRepaints()
+{
+    QWidget window;
+    QMenu menu(u"Options"_s);
+    auto *button = new RibbonButton(&window);
+    button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    button->setAction(menu.menuAction());
+    button->setPopupMode(QToolButton::MenuButtonPopup);
+    window.resize(200, 200);
+    QVERIFY(Input::show(&window));
+    const QPoint inMain(10, 10);
+    const QPoint inMenu(10, 60);
+    PaintWatcher watcher(button);
+    Input::move(button, inMain);
+    QTRY_VERIFY(watcher.hasPainted());
+    watcher.reset();
+
+    Input::move(button, inMain + QPoint(5, 5));
+    QCoreApplication::processEvents();
+    QVERIFY(!watcher.hasPainted());
+    Input::move(button, inMenu);
+    QTRY_VERIFY(watcher.hasPainted());
+    watcher.reset();
+    Input::move(button, inMain);
+    QTRY_VERIFY(watcher.hasPainted());
 }
 
 QTEST_MAIN(tst_RibbonButtonPainting)

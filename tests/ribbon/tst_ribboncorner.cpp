@@ -9,6 +9,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -78,6 +79,8 @@ private Q_SLOTS:
     void addedWidgetsAreShownWithTheCorner();
     void addedWidgetsStandTwoPixelsApart_data();
     void addedWidgetsStandTwoPixelsApart();
+    void marginsFollowTheLayoutDirection();
+    void takesNoMoreRoomThanItsWidgets();
     void addedWidgetsWork();
     void nothingIsIgnored();
     void aWidgetAddedAgainMovesToTheEnd();
@@ -197,7 +200,7 @@ void tst_RibbonCorner::addedWidgetsStandTwoPixelsApart_data()
     QTest::newRow("left to right")
         << Qt::LeftToRight << QRect(0, 0, 30, 20) << QRect(32, 0, 40, 20);
     QTest::newRow("right to left")
-        << Qt::RightToLeft << QRect(42, 0, 30, 20) << QRect(0, 0, 40, 20);
+        << Qt::RightToLeft << QRect(47, 0, 30, 20) << QRect(5, 0, 40, 20);
 }
 
 void tst_RibbonCorner::addedWidgetsStandTwoPixelsApart()
@@ -213,6 +216,33 @@ void tst_RibbonCorner::addedWidgetsStandTwoPixelsApart()
     QCOMPARE(corner.size(), QSize(30 + 2 + 40 + 5, 20));
     QTEST(first->geometry(), "first");
     QTEST(second->geometry(), "second");
+}
+
+void tst_RibbonCorner::marginsFollowTheLayoutDirection()
+{
+    RibbonCorner corner;
+    corner.setLayoutDirection(Qt::RightToLeft);
+    QCOMPARE(layoutOf(corner)->contentsMargins(), QMargins(5, 0, 0, 0));
+    corner.setLayoutDirection(Qt::LeftToRight);
+    QCOMPARE(layoutOf(corner)->contentsMargins(), QMargins(0, 0, 5, 0));
+}
+
+void tst_RibbonCorner::takesNoMoreRoomThanItsWidgets()
+{
+    QWidget window;
+    auto *row = new QHBoxLayout(&window);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    auto *corner = new RibbonCorner;
+    row->addStretch();
+    row->addWidget(corner);
+    auto *edit = new QLineEdit;
+    corner->addWidget(edit);
+    window.resize(600, 40);
+    QVERIFY(Input::show(&window));
+    QCOMPARE(corner->width(), edit->sizeHint().width() + 5);
+    QCOMPARE(corner->geometry().right(), 599);
+    QCOMPARE(corner->height(), 40);
 }
 
 void tst_RibbonCorner::addedWidgetsWork()

@@ -137,6 +137,8 @@ private Q_SLOTS:
     void endsWithAVerticalLine();
     void theTitleStandsUnderTheItems();
     void theTitleHasItsNameHeightAndAlignment();
+    void theTitlesOfAllGroupsAreInLine();
+    void marginsFollowTheLayoutDirection();
     void anEmptyGroupIsAsHighAsAnyAndShowsItsTitle();
     void isNeverWiderThanItsItems();
 
@@ -289,6 +291,35 @@ void tst_RibbonGroup::theTitleHasItsNameHeightAndAlignment()
     QCOMPARE(label->minimumHeight(), 12);
     QCOMPARE(label->maximumHeight(), 12);
     QCOMPARE(label->parent(), &group);
+    QVERIFY(label->fontMetrics().height() <= 12);
+}
+
+void tst_RibbonGroup::theTitlesOfAllGroupsAreInLine()
+{
+    QAction action(u"Bold"_s);
+    RibbonGroup empty(u"Empty"_s);
+    RibbonGroup large(u"Large"_s);
+    large.addAction(&action);
+    RibbonGroup small(u"Small"_s);
+    small.addSubgroup()->addAction(&action);
+    RibbonGroup lines(u"Lines"_s);
+    lines.addSeparator();
+    for (RibbonGroup *group : {&empty, &large, &small, &lines}) {
+        QVERIFY(Input::show(group));
+        QCOMPARE(titleLabelOf(*group)->y(), 95 - 1 - 12);
+    }
+    // The items are in the middle of what is left.
+    QCOMPARE(itemAt(large, 0)->y(), 1 + (81 - 72) / 2);
+    QCOMPARE(itemAt(small, 0)->y(), 1 + (81 - 22) / 2);
+}
+
+void tst_RibbonGroup::marginsFollowTheLayoutDirection()
+{
+    RibbonGroup group(u"Font"_s);
+    group.setLayoutDirection(Qt::RightToLeft);
+    QCOMPARE(mainLayoutOf(group)->contentsMargins(), QMargins(3, 1, 0, 1));
+    group.setLayoutDirection(Qt::LeftToRight);
+    QCOMPARE(mainLayoutOf(group)->contentsMargins(), QMargins(0, 1, 3, 1));
 }
 
 void tst_RibbonGroup::anEmptyGroupIsAsHighAsAnyAndShowsItsTitle()
@@ -436,7 +467,7 @@ void tst_RibbonGroup::itemsStandFourPixelsApart_data()
         "places"); // of the left edges of button, line, button and end line
 
     QTest::newRow("left to right") << Qt::LeftToRight << QList<int>({0, 40, 45, 84});
-    QTest::newRow("right to left") << Qt::RightToLeft << QList<int>({49, 44, 4, 0});
+    QTest::newRow("right to left") << Qt::RightToLeft << QList<int>({52, 47, 7, 3});
 }
 
 void tst_RibbonGroup::itemsStandFourPixelsApart()

@@ -78,6 +78,7 @@ private Q_SLOTS:
 
     void groupsArePackedToTheLeadingEdge_data();
     void groupsArePackedToTheLeadingEdge();
+    void marginsFollowTheLayoutDirection();
     void groupsStandInTheMiddleOfAHighPage();
     void aHiddenGroupTakesNoPlace();
 };
@@ -280,9 +281,18 @@ void tst_RibbonPage::groupsArePackedToTheLeadingEdge()
         QCOMPARE(first->x(), 3);
         QCOMPARE(second->x(), 3 + first->width());
     } else {
-        QCOMPARE(first->x(), width - first->width());
-        QCOMPARE(second->x(), width - first->width() - second->width());
+        QCOMPARE(first->x(), width - 3 - first->width());
+        QCOMPARE(second->x(), width - 3 - first->width() - second->width());
     }
+}
+
+void tst_RibbonPage::marginsFollowTheLayoutDirection()
+{
+    RibbonPage page;
+    page.setLayoutDirection(Qt::RightToLeft);
+    QCOMPARE(layoutOf(page)->contentsMargins(), QMargins(0, 0, 3, 0));
+    page.setLayoutDirection(Qt::LeftToRight);
+    QCOMPARE(layoutOf(page)->contentsMargins(), QMargins(3, 0, 0, 0));
 }
 
 void tst_RibbonPage::groupsStandInTheMiddleOfAHighPage()

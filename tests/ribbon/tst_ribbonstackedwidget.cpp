@@ -68,6 +68,16 @@ private Q_SLOTS:
     void clicksDoNotReachAPageShownBehind_data();
     void clicksDoNotReachAPageShownBehind();
     void aHiddenPageIsShownWhenItBecomesCurrent();
+    void aPageShownBehindWorksWhenItBecomesCurrent_data();
+    void aPageShownBehindWorksWhenItBecomesCurrent();
+    void aPageShownBehindComesForwardWhenTheCurrentOneIsDeleted();
+    void aPageShownBehindMayBeDeleted();
+    void aPageShownBehindMayMoveToAnotherStack();
+    void aPageShownBehindFollowsTheSizeOfTheStack();
+
+    void asksForTheSizeOfThePagesSeen();
+    void pagesThatWereNotSeenDoNotCount();
+    void aDeletedPageDoesNotCount();
 };
 
 void tst_RibbonStackedWidget::isAStackedWidgetInTheNamespace()
@@ -356,6 +366,186 @@ void tst_RibbonStackedWidget::aHiddenPageIsShownWhenItBecomesCurrent()
     QVERIFY(second->isVisible());
     QVERIFY(!first->isVisible());
     QCOMPARE(second->size(), stack.size());
+}
+
+void tst_RibbonStackedWidget::aPageShownBehindWorksWhenItBecomesCurrent_data()
+{
+    using Function = void (*)(RibbonStackedWidget *);
+    QTest::addColumn<Function>("beforehand");
+
+    QTest::newRow("shown") << Function([](RibbonStackedWidget *stack) { stack->showPage(1); });
+    QTest::newRow("shown twice") << Function([](RibbonStackedWidget *stack) {
+        stack->showPage(1);
+        stack->showPage(1);
+    });
+    QTest::newRow("shown and hidden") << Function([](RibbonStackedWidget *stack) {
+        stack->showPage(1);
+        stack->hidePage(1);
+    });
+    QTest::newRow("current, left and shown") << Function([](RibbonStackedWidget *stack) {
+        stack->setCurrentIndex(1);
+        stack->setCurrentIndex(0);
+        stack->showPage(1);
+    });
+}
+
+void tst_RibbonStackedWidget::aPageShownBehindWorksWhenItBecomesCurrent()
+{
+    using Function = void (*)(RibbonStackedWidget *);
+    QFETCH(const Function, beforehand);
+    RibbonStackedWidget stack(nullptr);
+    stack.addPage(u"Home"_s);
+    RibbonPage *page = stack.addPage(u"View"_s);
+    auto *edit = new QLineEdit;
+    edit->setFocusPolicy(Qt::WheelFocus);
+    auto *button = new QPushButton(u"Zoom"_s);
+    button->setFocusPolicy(Qt::TabFocus);
+    auto *label = new QLabel(u"Zoom"_s);
+    RibbonGroup *group = page->addGroup(u"Zoom"_s);
+    group->addWidget(edit);
+    group->addWidget(button);
+    group->addWidget(label);
+    const QSignalSpy clicked(button, &QPushButton::clicked);
+    stack.resize(400, 95);
+    QVERIFY(Input::show(&stack));
+
+    beforehand(&stack);
+    stack.setCurrentIndex(1);
+    QCoreApplication::processEvents();
+
+    QCOMPARE(page->geometry(), QRect(0, 0, 400, 95));
+    QCOMPARE(edit->focusPolicy(), Qt::WheelFocus);
+    QCOMPARE(button->focusPolicy(), Qt::TabFocus);
+    QCOMPARE(label->focusPolicy(), Qt::NoFocus);
+    for (const QWidget *widget : {static_cast<QWidget *>(edit), static_cast<QWidget *>(label)})
+        QVERIFY(widget->dynamicPropertyNames().isEmpty());
+    Input::click(edit);
+    QVERIFY(edit->hasFocus());
+    QTest::keyClick(edit, Qt::Key_Tab);
+    QVERIFY(button->hasFocus());
+    Input::click(button);
+    QCOMPARE(clicked.size(), 1);
+}
+
+void tst_RibbonStackedWidget::aPageShownBehindComesForwardWhenTheCurrentOneIsDeleted()
+{
+    RibbonStackedWidget stack(nullptr);
+    const RibbonPage *first = stack.addPage(u"Home"_s);
+    const RibbonPage *second = stack.addPage(u"View"_s);
+    auto *edit = new QLineEdit;
+    stack.page(1)->addGroup(u"Zoom"_s)->addWidget(edit);
+    stack.resize(400, 95);
+    QVERIFY(Input::show(&stack));
+    stack.showPage(1);
+    delete first;
+    QCOMPARE(stack.currentWidget(), second);
+    QVERIFY(second->isVisible());
+    QCOMPARE(second->geometry(), QRect(0, 0, 400, 95));
+    Input::click(edit);
+    QVERIFY(edit->hasFocus());
+}
+
+void tst_RibbonStackedWidget::aPageShownBehindMayBeDeleted()
+{
+    RibbonStackedWidget stack(nullptr);
+    stack.addPage(u"Home"_s);
+    stack.addPage(u"View"_s);
+    stack.resize(400, 95);
+    QVERIFY(Input::show(&stack));
+    stack.showPage(1);
+    delete stack.page(1);
+    const RibbonPage *page = stack.addPage(u"Help"_s);
+    stack.setCurrentIndex(1);
+    QVERIFY(page->isVisible());
+    QCOMPARE(page->geometry(), QRect(0, 0, 400, 95));
+}
+
+void tst_RibbonStackedWidget::aPageShownBehindMayMoveToAnotherStack()
+{
+    RibbonStackedWidget one(nullptr);
+    one.addPage(u"Home"_s);
+    RibbonPage *page = one.addPage(u"View"_s);
+    auto *edit = new QLineEdit;
+    page->addGroup(u"Zoom"_s)->addWidget(edit);
+    one.resize(400, 95);
+    QVERIFY(Input::show(&one));
+    one.showPage(1);
+    RibbonStackedWidget other(nullptr);
+    other.resize(300, 95);
+    other.addPage(u"View"_s, page);
+    QVERIFY(Input::show(&other));
+    QCOMPARE(page->geometry(), QRect(0, 0, 300, 95));
+    Input::click(edit);
+    QVERIFY(edit->hasFocus());
+}
+
+void tst_RibbonStackedWidget::aPageShownBehindFollowsTheSizeOfTheStack()
+{
+    RibbonStackedWidget stack(nullptr);
+    stack.addPage(u"Home"_s);
+    const RibbonPage *page = stack.addPage(u"View"_s);
+    stack.resize(400, 95);
+    QVERIFY(Input::show(&stack));
+    stack.showPage(1);
+    stack.resize(600, 95);
+    QCOMPARE(stack.width(), 600);
+    QVERIFY(!stack.rect().intersects(page->geometry()));
+    stack.setCurrentIndex(1);
+    QCOMPARE(page->geometry(), QRect(0, 0, 600, 95));
+}
+
+void tst_RibbonStackedWidget::asksForTheSizeOfThePagesSeen()
+{
+    RibbonStackedWidget stack(nullptr);
+    RibbonPage *narrow = stack.addPage(u"Home"_s);
+    narrow->addGroup(u"Zoom"_s);
+    RibbonPage *wide = stack.addPage(u"View"_s);
+    wide->addGroup(u"All the windows of this program"_s);
+    const int narrowWidth = narrow->sizeHint().width();
+    const int wideWidth = wide->sizeHint().width();
+    QVERIFY(narrowWidth < wideWidth);
+
+    QCOMPARE(stack.sizeHint().width(), narrowWidth);
+    QCOMPARE(stack.minimumSizeHint().width(), narrow->minimumSizeHint().width());
+    QVERIFY(Input::show(&stack));
+    stack.setCurrentIndex(1);
+    QCOMPARE(stack.sizeHint().width(), wideWidth);
+    QCOMPARE(stack.minimumSizeHint().width(), wide->minimumSizeHint().width());
+    stack.setCurrentIndex(0);
+    QCOMPARE(stack.sizeHint().width(), wideWidth);
+    QCOMPARE(stack.minimumSizeHint().width(), wide->minimumSizeHint().width());
+}
+
+void tst_RibbonStackedWidget::pagesThatWereNotSeenDoNotCount()
+{
+    RibbonStackedWidget stack(nullptr);
+    QCOMPARE(stack.sizeHint(), QSize(0, 0));
+    QCOMPARE(stack.minimumSizeHint(), QSize(0, 0));
+    RibbonPage *narrow = stack.addPage(u"Home"_s);
+    narrow->addGroup(u"Zoom"_s);
+    RibbonPage *wide = stack.addPage(u"View"_s);
+    wide->addGroup(u"All the windows of this program"_s);
+    // Current, but nobody saw it.
+    stack.setCurrentIndex(1);
+    QCOMPARE(stack.sizeHint().width(), wide->sizeHint().width());
+    stack.setCurrentIndex(0);
+    QCOMPARE(stack.sizeHint().width(), narrow->sizeHint().width());
+    QVERIFY(Input::show(&stack));
+    stack.showPage(1);
+    QCOMPARE(stack.sizeHint().width(), narrow->sizeHint().width());
+}
+
+void tst_RibbonStackedWidget::aDeletedPageDoesNotCount()
+{
+    RibbonStackedWidget stack(nullptr);
+    RibbonPage *narrow = stack.addPage(u"Home"_s);
+    narrow->addGroup(u"Zoom"_s);
+    stack.addPage(u"View"_s)->addGroup(u"All the windows of this program"_s);
+    QVERIFY(Input::show(&stack));
+    stack.setCurrentIndex(1);
+    delete stack.page(1);
+    QCOMPARE(stack.currentWidget(), narrow);
+    QCOMPARE(stack.sizeHint().width(), narrow->sizeHint().width());
 }
 
 QTEST_MAIN(tst_RibbonStackedWidget)

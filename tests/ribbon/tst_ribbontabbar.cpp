@@ -10,6 +10,7 @@
 
 #include <QButtonGroup>
 #include <QHBoxLayout>
+#include <QPaintEvent>
 #include <QPointer>
 #include <QSignalSpy>
 
@@ -54,6 +55,24 @@ void addTabs(RibbonTabBar *bar, const QStringList &titles)
     for (const QString &title : titles)
         bar->addTab(title, false);
 }
+
+/// Where a widget was painted.
+class PaintLog : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit PaintLog(QWidget *watched) { watched->installEventFilter(this); }
+
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            painted += static_cast<QPaintEvent *>(event)->region();
+        return false;
+    }
+
+    QRegion painted;
+};
 
 void addIndexesOutOfRange(int count)
 {
@@ -114,6 +133,7 @@ private Q_SLOTS:
     void temporaryTabsStandOnAPlate();
     void onlyVisibleTemporaryTabsHaveAPlate();
     void platesFollowTheTabsThatAreShownAgain();
+    void platesAreRepaintedWithTheirTabs();
 };
 
 void tst_RibbonTabBar::isAFrameInTheNamespace()
@@ -546,6 +566,23 @@ void tst_RibbonTabBar::platesFollowTheTabsThatAreShownAgain()
         const QRect above(tab.left() - 2, tab.top() - 3, tab.width() + 4, 3);
         VERIFY_IMAGE(ImageChecks::isFilled(image, above, PlateColor));
     }
+}
+
+void tst_RibbonTabBar::platesAreRepaintedWithTheirTabs()
+{
+    RibbonTabBar bar(nullptr);
+    bar.addTab(u"Home"_s, false);
+    bar.addTab(u"Picture"_s, true);
+    bar.setFixedWidth(300);
+    QVERIFY(Input::show(&bar));
+    const QRect plate = tabAt(bar, 1)->geometry().adjusted(-2, -3, 2, 0);
+
+    PaintLog log(&bar);
+    bar.hideTab(1);
+    QTRY_COMPARE(log.painted.intersected(plate), QRegion(plate));
+    log.painted = {};
+    bar.showTab(1);
+    QTRY_COMPARE(log.painted.intersected(plate), QRegion(plate));
 }
 
 QTEST_MAIN(tst_RibbonTabBar)

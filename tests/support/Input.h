@@ -10,10 +10,11 @@
 
 /// What a person does with the mouse.
 ///
-/// The events take the way of real ones, through the window of the widget: the widget under the pointer gets them,
-/// with the entering, leaving and grabbing that belongs to it, and an open popup gets them first. Positions are in
-/// the coordinates of the widget; without one, its centre is meant. The window has to be shown before, and the
-/// pointer has to stay inside of it, off its top left pixel.
+/// The events take the way of real ones, through the window of the widget: the widget under the
+/// pointer gets them, with the entering, leaving and grabbing that belongs to it, and an open popup
+/// gets them first. Positions are in the coordinates of the widget; without one, its centre is
+/// meant. The window has to be shown before, and the pointer has to stay inside of it, off its top
+/// left pixel.
 namespace Input {
 
 using Position = std::optional<QPoint>;
@@ -28,7 +29,7 @@ void click(QWidget *widget, Position at = {}, Qt::MouseButton button = Qt::LeftB
 void rightClick(QWidget *widget, Position at = {});
 void doubleClick(QWidget *widget, Position at = {});
 
-/// Presses the left button at \a from, moves to \a to in several steps and releases the button there.
+/// Presses the left button at \a from, moves to \a to in several steps and releases it there.
 void drag(QWidget *widget, QPoint from, QPoint to);
 
 /// Turns the wheel by \a steps notches; away from the user is positive.

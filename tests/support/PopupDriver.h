@@ -16,15 +16,17 @@ class QWidget;
 
 /// Drives the menu or message box that the next action of the test opens.
 ///
-/// Both hold up the call that opens them until they are closed, so what happens meanwhile has to be said before:
+/// Both hold up the call that opens them until they are closed, so what happens meanwhile has to be
+/// said before:
 ///
 ///     PopupDriver driver([](QMenu *menu) { Input::click(menu, ...); });
 ///     Input::press(button);
 ///     QVERIFY(driver.hasRun());
 ///
-/// The function runs once, on the first popup of its type; if the popup is still open afterwards, it is closed. If
-/// none comes, or one of another type, the test fails: in the end when the driver is destroyed, and after the
-/// time-out, when whatever is open is closed, so that a wrong popup does not hold up the test for ever.
+/// The function runs once, on the first popup of its type; if that is still open afterwards, it is
+/// closed. If none comes, or one of another type, the test fails: in the end when the driver is
+/// destroyed, and after the time-out, when whatever is open is closed, so that a wrong popup does
+/// not hold up the test for ever.
 class PopupDriver final : public QObject
 {
     Q_OBJECT

@@ -18,11 +18,12 @@
 
 /// The base of every test class of widgets.
 ///
-/// All test functions see one look, whatever the machine's is: the Fusion style, a light palette and the font
-/// DejaVu Sans in 9 pt. A warning fails the function that it comes in, unless that function named it before with
-/// QTest::ignoreMessage(). After each function, the clean-up proves that no window, no grab and no pressed button
-/// is left and that the application's style sheet, palette, font, clipboard, layout direction and locale are as
-/// they were before it.
+/// All test functions see one look, whatever the machine's is: the Fusion style, a light palette
+/// and the font DejaVu Sans in 9 pt. A warning fails the function that it comes in, unless that
+/// function named it before with QTest::ignoreMessage(). After each function, the clean-up proves
+/// that no window and no grab is left and that what the whole application shares is as it was
+/// before: style sheet, palette, font, clipboard, layout direction, locale, cursor and pressed
+/// mouse buttons.
 ///
 /// A class that needs an init() or cleanup() of its own calls the one here from it.
 class TestCase : public QObject
@@ -47,6 +48,8 @@ private:
         QString clipboardText;
         Qt::LayoutDirection layoutDirection = Qt::LeftToRight;
         QLocale locale;
+        bool hasOverrideCursor = false;
+        Qt::MouseButtons mouseButtons;
     };
 
     QWidgetList m_windowsBefore;
