@@ -44,7 +44,9 @@ QRect RibbonButtonPrivate::textRect() const
     const QFontMetrics metrics = q_ptr->fontMetrics();
     const int x = smallLeftMargin + smallIconSize.width() + smallTextSpacing;
     const int y = (q_ptr->height() - metrics.height()) / 2;
-    return mirrored({QPoint(x, y), metrics.size(Qt::TextSingleLine, text())});
+    // On a single line, a line break is painted as a space.
+    const int width = metrics.horizontalAdvance(text().replace(u'\n', u' '));
+    return mirrored({x, y, width, metrics.height()});
 }
 
 QRect RibbonButtonPrivate::arrowRect() const

@@ -16,6 +16,8 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QScopeGuard>
+#include <QStyle>
+#include <QStyleFactory>
 #include <QStyleHints>
 #include <QVBoxLayout>
 
@@ -236,6 +238,10 @@ void tst_VornFrameAgent::turnsADarkLookIntoALightOne()
     QCOMPARE(hints->colorScheme(), Qt::ColorScheme::Light);
 #else
     const QPalette palette = QApplication::palette();
+    const std::unique_ptr<QStyle> fusion(QStyleFactory::create(u"Fusion"_s));
+    for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button, QPalette::Dark,
+                            QPalette::Highlight, QPalette::Link, QPalette::ToolTipBase})
+        QCOMPARE(palette.color(role), fusion->standardPalette().color(role));
     QVERIFY(palette.color(QPalette::Window).lightness() > 200);
     QVERIFY(palette.color(QPalette::Base).lightness() > 200);
     QVERIFY(palette.color(QPalette::WindowText).lightness() < 60);
