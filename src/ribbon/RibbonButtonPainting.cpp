@@ -17,6 +17,13 @@ namespace {
 /// Lines of 1 px are crisp when their middle is in the middle of a pixel.
 constexpr QPointF HalfPixel(0.5, 0.5);
 
+/// The pixel ratio of what is painted on in the end: a widget may be rendered into an image that has
+/// another one than itself.
+qreal deviceRatio(const QPainter &painter)
+{
+    return painter.paintEngine()->paintDevice()->devicePixelRatioF();
+}
+
 } // namespace
 
 QRect RibbonButtonPrivate::mirrored(const QRect &rect) const
@@ -139,10 +146,16 @@ void RibbonButtonPrivate::drawPlainBackground(QPainter &painter) const
 
 void RibbonButtonPrivate::drawIcon(QPainter &painter) const
 {
+    const QIcon::Mode mode = q_ptr->isEnabled() ? QIcon::Normal : QIcon::Disabled;
     // An icon with a picture of its own for the checked state shows it.
-    q_ptr->icon().paint(&painter, iconRect(), Qt::AlignCenter,
-                        q_ptr->isEnabled() ? QIcon::Normal : QIcon::Disabled,
-                        q_ptr->isChecked() ? QIcon::On : QIcon::Off);
+    const QIcon::State state = q_ptr->isChecked() ? QIcon::On : QIcon::Off;
+    QRect rect = iconRect();
+    const QPixmap pixmap = q_ptr->icon().pixmap(rect.size(), deviceRatio(painter), mode, state);
+    // Icons are never enlarged: a smaller one stands in the middle.
+    const QPoint middle = rect.center();
+    rect.setSize(pixmap.deviceIndependentSize().toSize());
+    rect.moveCenter(middle);
+    painter.drawPixmap(rect, pixmap);
 }
 
 void RibbonButtonPrivate::drawText(QPainter &painter) const
@@ -164,10 +177,8 @@ void RibbonButtonPrivate::drawArrow(QPainter &painter) const
     if (!menu() || (!isLarge() && !isSmall()))
         return;
     const QIcon::Mode mode = q_ptr->isEnabled() ? QIcon::Normal : QIcon::Disabled;
-    // Not the ratio of the widget, which may be rendered into an image of another one.
-    const qreal ratio = painter.paintEngine()->paintDevice()->devicePixelRatioF();
-    painter.drawPixmap(arrowRect(),
-                       Pixmaps::rendered(ResourcePaths::Arrow, arrowSize, ratio, mode));
+    painter.drawPixmap(arrowRect(), Pixmaps::rendered(ResourcePaths::Arrow, arrowSize,
+                                                      deviceRatio(painter), mode));
 }
 
 } // namespace VornFrame
