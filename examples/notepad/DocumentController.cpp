@@ -68,7 +68,7 @@ TextFile::Status DocumentController::load(const QString &path)
         if (status.ok()) {
             m_editor->setText(m_file.text());
             showFile();
-            Q_EMIT reported(tr("Opened “%1”").arg(QDir::toNativeSeparators(m_file.path())));
+            Q_EMIT reported(tr("Opened “%1”").arg(name()));
         }
         return status;
     });

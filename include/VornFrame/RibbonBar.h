@@ -18,18 +18,25 @@ class RibbonPage;
 /// The band of command pages across the top of a window, 123 px high: a row of page tabs, a corner
 /// for further widgets at its trailing end, and below them the current page.
 ///
-/// Pages are only ever added, and a page lives as long as its bar. Tab i and page i belong
-/// together, so an index (base 0, in the order added) always means both. Temporary pages are
-/// context pages: their tabs stand on a blue plate, and hideTemporaryPages() hides all of them at
-/// once.
+/// Pages are only ever added, and a page lives in its bar as long as the bar: do not delete it or
+/// move it elsewhere. Tab i and page i belong together, so an index (base 0, in the order added)
+/// always means both. Temporary pages are context pages: their tabs stand on a blue plate, and
+/// hideTemporaryPages() hides all of them at once.
 ///
 /// Hiding a page hides its tab and leaves the current page as it is, so an application that hides
 /// the current page chooses another one with setCurrentIndex().
+///
+/// The bar is at least as wide as its tab row and as the widest page that has been current so far.
+/// A page that was never seen does not count, so choosing a wide page can widen a narrow window.
+///
+/// The object name is "RibbonBar", and a right click emits customContextMenuRequested().
 class VORNFRAME_EXPORT RibbonBar : public QFrame
 {
     Q_OBJECT
 
 public:
+    /// An empty bar, styled with the library's light ribbon sheet. A bar without \a parent makes a
+    /// native window when it gets its first page; it goes when the bar is placed in a window.
     explicit RibbonBar(QWidget *parent = nullptr);
     ~RibbonBar() override;
 
@@ -73,7 +80,7 @@ public:
     void hidePage(int index);
 
     /// Shows the tab and the page at \a index again; an index out of range is ignored. A page that
-    /// is not the current one stays behind it.
+    /// is not the current one waits out of sight; the shortcuts of its actions work.
     void showPage(int index);
 
     /// hidePage(\a index) if \a hidden, else showPage(\a index).
@@ -89,7 +96,7 @@ public:
     /// Hides the tabs and pages of all temporary pages.
     void hideTemporaryPages();
 
-    /// The area at the trailing end of the tab row; owned by the bar, never null.
+    /// The area at the trailing end of the tab row. The bar owns it; never null.
     RibbonCorner *corner() const;
 
 Q_SIGNALS:
@@ -98,6 +105,7 @@ Q_SIGNALS:
     void signalCurrentPageChanged(int index);
 
 protected:
+    /// For subclasses inside the library: takes \a d over and sets nothing up.
     RibbonBar(RibbonBarPrivate &d, QWidget *parent);
 
     bool event(QEvent *event) override;

@@ -25,21 +25,23 @@ class RibbonSubgroup;
 /// What an action becomes is decided by the container that it is added to: here a large button
 /// (icon above text). The commands reach the application through the actions' own signals. Items
 /// are only ever added: the button of an action that is removed from the group stays where it is.
-/// Hiding an action hides its button.
+/// Hiding an action hides its button, but not an embedded widget or a separator.
 class VORNFRAME_EXPORT RibbonGroup : public QWidget
 {
     Q_OBJECT
 
 public:
+    /// An empty group; RibbonPage::addGroup() makes one in its place. \a title is shown as it is,
+    /// never as markup.
     explicit RibbonGroup(const QString &title, QWidget *parent = nullptr);
     ~RibbonGroup() override;
 
     using QWidget::addAction;
 
-    /// Appends a large button for \a action, the widget of a QWidgetAction, or a vertical line for
-    /// a separator action. The caller keeps \a action, except that a QWidgetAction becomes a child
-    /// of the group. A null \a action is ignored; an action that was added before gets one more
-    /// item.
+    /// Appends a large button for \a action, the widget of a QWidgetAction (shown, also if it was
+    /// hidden), or a vertical line for a separator action. The caller keeps \a action, except that
+    /// a QWidgetAction that has a widget to give becomes a child of the group. A null \a action is
+    /// ignored; an action that was added before gets one more button or line.
     void addAction(QAction *action);
 
     /// Appends a large button for \a menu and returns the menu's own action; null if \a menu is
@@ -70,6 +72,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
+    /// For subclasses inside the library: takes \a d over and sets nothing up.
     RibbonGroup(RibbonGroupPrivate &d, QWidget *parent);
 
     bool event(QEvent *event) override;

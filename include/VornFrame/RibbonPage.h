@@ -20,6 +20,7 @@ class VORNFRAME_EXPORT RibbonPage : public QWidget
     Q_OBJECT
 
 public:
+    /// An empty page; RibbonBar::addPage() makes one too.
     explicit RibbonPage(QWidget *parent = nullptr);
     ~RibbonPage() override;
 
@@ -34,6 +35,7 @@ public:
     int indexOf(RibbonGroup *group) const;
 
 protected:
+    /// For subclasses inside the library: takes \a d over and sets nothing up.
     RibbonPage(RibbonPagePrivate &d, QWidget *parent);
 
     void changeEvent(QEvent *event) override;

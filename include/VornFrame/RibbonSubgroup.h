@@ -28,15 +28,16 @@ class VORNFRAME_EXPORT RibbonSubgroup : public QWidget
     Q_OBJECT
 
 public:
+    /// An empty column; RibbonGroup::addSubgroup() makes one in its place.
     explicit RibbonSubgroup(QWidget *parent = nullptr);
     ~RibbonSubgroup() override;
 
     using QWidget::addAction;
 
-    /// Appends a small button for \a action, or the widget of a QWidgetAction. A separator action
-    /// becomes a small button too. The caller keeps \a action, except that a QWidgetAction becomes
-    /// a child of the subgroup. A null \a action is ignored; an action that was added before gets
-    /// one more item.
+    /// Appends a small button for \a action, or the widget of a QWidgetAction (shown, also if it
+    /// was hidden). A separator action becomes a small button too. The caller keeps \a action,
+    /// except that a QWidgetAction that has a widget to give becomes a child of the subgroup. A
+    /// null \a action is ignored; an action that was added before gets one more button.
     void addAction(QAction *action);
 
     /// Appends one row of icon-only buttons, one for each of \a actions in their order; an empty
@@ -56,6 +57,7 @@ public:
     QAction *addWidget(QWidget *widget);
 
 protected:
+    /// For subclasses inside the library: takes \a d over and sets nothing up.
     RibbonSubgroup(RibbonSubgroupPrivate &d, QWidget *parent);
 
     bool event(QEvent *event) override;

@@ -38,9 +38,9 @@ public:
     ~VornFrameAgent() override;
 
     /// Stacks the ribbon bar, a line of 1 px and \a content in \a dialog, which becomes their
-    /// parent; a layout that \a dialog had is replaced. Then the style sheet of \a dialog, followed
-    /// by the library's global rules, becomes the style sheet of the application, in place of the
-    /// one that it had.
+    /// parent. A layout that \a dialog had is deleted; the widgets that it held stay in the dialog,
+    /// unplaced. Then the style sheet of \a dialog, followed by the library's global rules, becomes
+    /// the style sheet of the application, in place of the one that it had.
     ///
     /// A null \a content leaves its place empty. A null \a dialog does nothing, but counts as the
     /// one set-up.
@@ -56,6 +56,7 @@ public:
     VornFrame::DockContainer *dockContainer() const;
 
 protected:
+    /// For subclasses inside the library: takes \a d over and sets the colour scheme.
     VornFrameAgent(VornFrameAgentPrivate &d, QObject *parent);
 
 private:

@@ -9,8 +9,9 @@
 
 namespace VornFrame {
 
-/// Gives the layout of \a widget \a margins as they are meant in a left-to-right layout, mirrored where
-/// \a widget is laid out from right to left. Qt mirrors the items of a layout, but not its margins.
+/// Gives the layout of \a widget \a margins as they are meant in a left-to-right layout, mirrored
+/// where \a widget is laid out from right to left. Qt mirrors the items of a layout, but not its
+/// margins.
 inline void setDirectedMargins(QWidget *widget, const QMargins &margins)
 {
     const QMargins mirrored(margins.right(), margins.top(), margins.left(), margins.bottom());

@@ -23,13 +23,13 @@ public:
 
     void init();
 
-    /// Gives a bar without a parent a native window: Qt announces a change of parent beforehand only
-    /// to widgets that have one.
+    /// Gives a bar without a parent a native window: Qt announces a change of parent beforehand
+    /// only to widgets that have one.
     void askForParentChanges() const;
 
     /// A bar that is filled before it is placed in its window would be polished as a whole, hidden
-    /// pages included, when it gets its parent: Qt does so for a widget with a style sheet of its own.
-    /// So the sheet is lifted for that moment, unless the bar has been seen already.
+    /// pages included, when it gets its parent: Qt does so for a widget with a style sheet of its
+    /// own. So the sheet is lifted for that moment, unless the bar has been seen already.
     /// docs/performance.md has the figures.
     void liftSheet();
     void putSheetBack();

@@ -207,8 +207,8 @@ void RibbonButton::mousePressEvent(QMouseEvent *event)
 
 void RibbonButton::mouseReleaseEvent(QMouseEvent *event)
 {
-    // QToolButton's own handler goes on with the button after the click (Qt 6.4), and the command may
-    // have deleted it by then.
+    // QToolButton's own handler goes on with the button after the click (Qt 6.4), and the command
+    // may have deleted it by then.
     QAbstractButton::mouseReleaseEvent(event); // NOLINT(bugprone-parent-virtual-call)
 }
 

@@ -17,8 +17,8 @@ namespace {
 /// Lines of 1 px are crisp when their middle is in the middle of a pixel.
 constexpr QPointF HalfPixel(0.5, 0.5);
 
-/// The pixel ratio of what is painted on in the end: a widget may be rendered into an image that has
-/// another one than itself.
+/// The pixel ratio of what is painted on in the end: a widget may be rendered into an image that
+/// has another one than itself.
 qreal deviceRatio(const QPainter &painter)
 {
     return painter.paintEngine()->paintDevice()->devicePixelRatioF();

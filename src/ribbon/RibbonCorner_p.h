@@ -22,7 +22,7 @@ public:
     void init();
 
     QHBoxLayout *layout = new QHBoxLayout;
-    QList<QPointer<QWidget>> widgets;
+    QList<QPointer<QWidget>> widgets; ///< in the order added, for subclasses
     RibbonCorner *q_ptr = nullptr;
 };
 

@@ -21,6 +21,7 @@
 #include <QMenu>
 #include <QPointer>
 #include <QSignalSpy>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -56,6 +57,23 @@ public:
     }
 
     int heightBeforeInit = -1;
+};
+
+class FontChangeCounter : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit FontChangeCounter(QObject *watched) { watched->installEventFilter(this); }
+
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        if (event->type() == QEvent::FontChange)
+            ++count;
+        return false;
+    }
+
+    int count = 0;
 };
 
 RibbonTabBar *tabBarOf(const RibbonBar &bar)
@@ -158,6 +176,7 @@ private Q_SLOTS:
     void aRightClickAsksTheApplicationForAMenu();
 
     void pagesDeletedByTheHostAreNotMissed();
+    void aTabWhosePageIsGoneCannotBecomeCurrent();
     void thePageMayBeDeletedWhenItIsShown();
     void theBarMayBeDeletedWhenAPageIsShown();
     void pagesMayBeAddedWhenAPageIsShown();
@@ -169,6 +188,7 @@ private Q_SLOTS:
     void aFilledBarStaysUnseenUntilItIsShown();
     void pagesLookTheSameWheneverTheyAreShown();
     void hiddenPagesAreNotPolishedBeforeTheyAreSeen();
+    void placingAFilledBarLeavesItsHiddenPagesAlone();
     void aPageShownBehindMayMoveToAnotherBar();
     void theMnemonicOfATitleClicksItsTab();
 
@@ -819,6 +839,16 @@ void tst_RibbonBar::pagesDeletedByTheHostAreNotMissed()
     Input::click(tabAt(bar, 0));
 }
 
+void tst_RibbonBar::aTabWhosePageIsGoneCannotBecomeCurrent()
+{
+    RibbonBar bar;
+    addPages(&bar, {u"Home"_s, u"View"_s, u"Help"_s});
+    delete bar.page(2);
+    bar.setCurrentIndex(2);
+    QCOMPARE(checkedTabs(bar), QList<int>({0}));
+    QCOMPARE(bar.currentPage(), bar.page(0));
+}
+
 void tst_RibbonBar::thePageMayBeDeletedWhenItIsShown()
 {
     RibbonBar bar;
@@ -994,6 +1024,30 @@ void tst_RibbonBar::hiddenPagesAreNotPolishedBeforeTheyAreSeen()
     QCOMPARE(std::count_if(widgets.begin(), widgets.end(), isPolished), widgets.size());
     QCOMPARE(group->findChild<QLabel *>(u"groupTitle"_s)->palette().color(QPalette::WindowText),
              QColor(97, 97, 97));
+}
+
+void tst_RibbonBar::placingAFilledBarLeavesItsHiddenPagesAlone()
+{
+    QAction action(u"Paste"_s);
+    for (const bool given : {false, true}) {
+        QWidget window;
+        auto *layout = new QVBoxLayout(&window);
+        auto *bar = new RibbonBar;
+        for (const auto &title : {u"Home"_s, u"View"_s}) {
+            if (given)
+                bar->addPage(title, new RibbonPage);
+            else
+                bar->addPage(title);
+        }
+        RibbonGroup *group = bar->page(1)->addGroup(u"Clipboard"_s);
+        group->addAction(&action);
+        // What the style sheet says about the font comes with polishing.
+        const FontChangeCounter ofGroup(group);
+        const FontChangeCounter ofButton(group->findChild<QToolButton *>());
+        layout->addWidget(bar);
+        QCOMPARE(ofGroup.count, 0);
+        QCOMPARE(ofButton.count, 0);
+    }
 }
 
 void tst_RibbonBar::aPageShownBehindMayMoveToAnotherBar()

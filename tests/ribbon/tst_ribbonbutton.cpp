@@ -582,6 +582,7 @@ void tst_RibbonButton::theMenuPartFollowsTheSize_data()
         const char *menu = hasMenu ? ", menu" : "";
         QTest::addRow("large, delayed%s", menu) << Large << QToolButton::DelayedPopup << hasMenu;
         QTest::addRow("large, split%s", menu) << Large << QToolButton::MenuButtonPopup << hasMenu;
+        QTest::addRow("large, instant%s", menu) << Large << QToolButton::InstantPopup << hasMenu;
         QTest::addRow("small, delayed%s", menu) << Small << QToolButton::DelayedPopup << hasMenu;
         QTest::addRow("small, split%s", menu) << Small << QToolButton::MenuButtonPopup << hasMenu;
         QTest::addRow("small, instant%s", menu) << Small << QToolButton::InstantPopup << hasMenu;
@@ -606,6 +607,7 @@ void tst_RibbonButton::theMenuPartFollowsTheSize()
     else if (style == Small)
         expected = QRect(26 + metrics.horizontalAdvance(u"Options"_s), 0, 20, 22);
     QCOMPARE(shown.record().menuRect, expected);
+    QCOMPARE(shown.record().isSplit(), hasMenu && mode != QToolButton::InstantPopup);
 }
 
 void tst_RibbonButton::aClickTriggersTheAction_data()
