@@ -60,9 +60,11 @@ private:
     bool m_painted = false;
 };
 
+/// All names are equally wide, so that no page makes its window wider than another one did.
 QString commandName(int page, int group, int action)
 {
-    return u"Command %1"_s.arg((page * GroupsPerPage + group) * ActionsPerGroup + action);
+    const int number = (page * GroupsPerPage + group) * ActionsPerGroup + action;
+    return u"Command %1"_s.arg(number, 4, 10, QLatin1Char('0'));
 }
 
 QIcon commandIcon()

@@ -171,7 +171,7 @@ private Q_SLOTS:
     void aClickTriggersTheAction_data();
     void aClickTriggersTheAction();
     void aPressMarksTheButtonDownAndHovered();
-    void aPressIsNotTheBaseClasss();
+    void aPressNeverReachesTheBaseClass();
     void aPressReleasedElsewhereTriggersNothing();
     void aPressThatComesBackTriggers();
     void aDoubleClickTriggersTwice();
@@ -652,7 +652,7 @@ void tst_RibbonButton::aPressMarksTheButtonDownAndHovered()
     QVERIFY(shown.button->isDown());
 }
 
-void tst_RibbonButton::aPressIsNotTheBaseClasss()
+void tst_RibbonButton::aPressNeverReachesTheBaseClass()
 {
     QAction action(u"Bold"_s);
     ButtonWindow shown(&action, Large);
