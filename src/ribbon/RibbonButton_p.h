@@ -41,6 +41,7 @@ public:
     /// and font.
     QSize textSize() const;
     QSize measure(const QString &string) const;
+    int lineWidth(const QString &line) const;
 
     /// The size of the button for a text of the given width.
     QSize sizeFor(int width) const;
