@@ -163,8 +163,9 @@ void RibbonButtonPrivate::drawText(QPainter &painter) const
     const QString string = text();
     painter.setPen(q_ptr->isEnabled() ? textPen : lightPen);
     int flags = Qt::TextDontClip;
+    // The rectangle of a single line is as wide as the text, and mirrored already.
     if (!isLarge())
-        flags |= Qt::AlignLeft | Qt::TextSingleLine;
+        flags |= Qt::AlignLeft | Qt::AlignAbsolute | Qt::TextSingleLine;
     else if (string.count(u'\n') < 2)
         flags |= Qt::AlignHCenter;
     else

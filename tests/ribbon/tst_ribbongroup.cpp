@@ -1008,6 +1008,7 @@ void tst_RibbonGroup::actionsOutliveTheGroup()
 {
     QAction action(u"Bold"_s);
     QMenu menu(u"Styles"_s);
+    menu.addAction(u"Title"_s); // newer versions of Qt do not open empty menus
     {
         RibbonGroup group(u"Font"_s);
         group.addAction(&action);
