@@ -104,5 +104,5 @@ void DialogFixture::select(int start, int length) const
 {
     editor()->select(start, length);
     // What follows a selection is done in the next turn of the event loop.
-    QTest::qWait(1);
+    QCoreApplication::processEvents();
 }

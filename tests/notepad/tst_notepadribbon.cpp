@@ -174,7 +174,7 @@ void tst_NotepadRibbon::aTransformKeepsItsSelectionAndItsPage()
     Input::click(tab(u"Selection"_s));
     Input::click(buttonOf(action(name)));
     QTEST(editor()->text(), "expected");
-    QTest::qWait(1);
+    QCoreApplication::processEvents();
     QVERIFY(editor()->textCursor().hasSelection());
     QCOMPARE(currentTitle(), u"Selection"_s);
     QVERIFY(editor()->hasFocus());
