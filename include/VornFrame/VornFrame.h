@@ -6,6 +6,9 @@
 /// \file
 /// Every exported class of the library.
 
+#include <VornFrame/DockContainer.h>
+#include <VornFrame/DockContentWidget.h>
+#include <VornFrame/DockPanelWidget.h>
 #include <VornFrame/RibbonBar.h>
 #include <VornFrame/RibbonCorner.h>
 #include <VornFrame/RibbonGroup.h>

@@ -10,7 +10,11 @@ namespace VornFrame::ResourcePaths {
 
 inline constexpr QLatin1StringView GlobalSheet(":/vornframe/vornframelight.css");
 inline constexpr QLatin1StringView RibbonSheet(":/res/ribbonLight.css");
+inline constexpr QLatin1StringView DockSheet(":/res/dockLight.css");
 
 inline constexpr QLatin1StringView Arrow(":/res/arrow.svg");
+inline constexpr QLatin1StringView DownArrowNormal(":/res/downArrowNormal.svg");
+inline constexpr QLatin1StringView RightArrowNormal(":/res/rightArrowNormal.svg");
+inline constexpr QLatin1StringView Menu(":/res/menu.svg");
 
 } // namespace VornFrame::ResourcePaths

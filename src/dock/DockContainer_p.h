@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: VornFrame contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <VornFrame/DockContainer.h>
+
+#include "DockStatusBar.h"
+
+#include <VornFrame/DockContentWidget.h>
+#include <VornFrame/DockPanelWidget.h>
+
+#include <QMainWindow>
+#include <QPointer>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+namespace VornFrame {
+
+class DockContainerPrivate
+{
+    Q_DISABLE_COPY_MOVE(DockContainerPrivate)
+
+public:
+    DockContainerPrivate() = default;
+    virtual ~DockContainerPrivate() = default;
+
+    void init();
+    void initLayout();
+    void initConnections();
+
+    void followHorizontalMove();
+    void followVerticalMove();
+    void resizeSide(int index, qint32 &width, bool minimized) const;
+    void resizeBottom(bool minimized);
+    void setContentVisible(bool visible);
+    void makeRoomForContent() const;
+    void alignBottomBar() const;
+
+    void restoreWidths(const QByteArray &state) const;
+
+    QSplitter *hSplitter = new QSplitter(Qt::Horizontal); ///< left side, column, right side
+    QSplitter *vSplitter = new QSplitter(Qt::Vertical); ///< content, bottom side
+    DockPanelWidget *left = new DockPanelWidget(DockPanelWidget::Left);
+    DockPanelWidget *bottom = new DockPanelWidget(DockPanelWidget::Bottom);
+    DockPanelWidget *right = new DockPanelWidget(DockPanelWidget::Right);
+    DockContentWidget *content = new DockContentWidget;
+    QPointer<DockStatusBar> statusBar; ///< made by setupMainWindow(); the main window owns it
+    QPointer<QMainWindow> mainWindow;
+    qint32 leftWidth = 0; ///< the last width of the left side that was not 0
+    qint32 bottomHeight = 0; ///< the last height of the bottom side that was not 0
+    qint32 rightWidth = 0; ///< the last width of the right side that was not 0
+    qint32 savedContentHeight = 0; ///< of the content when it was last hidden
+    DockContainer *q_ptr = nullptr;
+};
+
+} // namespace VornFrame

@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: VornFrame contributors
+// SPDX-License-Identifier: MIT
+
+#include "DockTitle.h"
+
+#include "DockTitle_p.h"
+
+#include "core/LazyPolish.h"
+#include "core/ResourcePaths.h"
+
+#include <QHBoxLayout>
+
+namespace VornFrame {
+
+namespace {
+
+constexpr QMargins TitleMargins(4, 0, 4, 0);
+constexpr int TitleSpacing = 4;
+constexpr QSize CollapseIconSize(17, 17);
+constexpr QSize MenuIconSize(10, 10);
+
+} // namespace
+
+void DockTitlePrivate::initCollapseButton()
+{
+    QIcon icon;
+    icon.addFile(ResourcePaths::DownArrowNormal, {}, QIcon::Normal, QIcon::Off);
+    icon.addFile(ResourcePaths::RightArrowNormal, {}, QIcon::Normal, QIcon::On);
+    collapseButton->setIcon(icon);
+    collapseButton->setIconSize(CollapseIconSize);
+    collapseButton->setFlat(true);
+    collapseButton->setCheckable(true);
+    collapseButton->setAccessibleName(DockTitle::tr("Collapse"));
+    // In a dialog an auto-default button would answer Return from any line edit.
+    collapseButton->setAutoDefault(false);
+    collapseButton->hide();
+    QObject::connect(collapseButton, &QPushButton::clicked, q_ptr, &DockTitle::signalCollapsed);
+}
+
+void DockTitlePrivate::initLabel()
+{
+    label->setTextFormat(Qt::PlainText);
+    label->setSizePolicy(label->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
+}
+
+void DockTitlePrivate::initMenu()
+{
+    menu = new QMenu(q_ptr);
+    minimizeAction = menu->addAction(DockTitle::tr("minimize to bar"));
+    QObject::connect(minimizeAction, &QAction::triggered, q_ptr, &DockTitle::signalMinimize);
+
+    menuButton->setIcon(QIcon(ResourcePaths::Menu));
+    menuButton->setIconSize(MenuIconSize);
+    menuButton->setFlat(true);
+    menuButton->setAccessibleName(DockTitle::tr("View menu"));
+    menuButton->setAutoDefault(false);
+    QObject::connect(menuButton, &QPushButton::clicked, q_ptr, [this] {
+        menu->exec(menuButton->mapToGlobal(QPoint(0, menuButton->height())));
+    });
+
+    q_ptr->setContextMenuPolicy(Qt::CustomContextMenu);
+    QObject::connect(q_ptr, &DockTitle::customContextMenuRequested, q_ptr,
+                     [this](QPoint pos) { menu->exec(q_ptr->mapToGlobal(pos)); });
+}
+
+void DockTitlePrivate::initLayout()
+{
+    auto *layout = new QHBoxLayout(q_ptr);
+    layout->setContentsMargins(TitleMargins);
+    layout->setSpacing(TitleSpacing);
+    layout->addWidget(collapseButton);
+    layout->addWidget(label);
+    layout->addWidget(menuButton);
+}
+
+DockTitle::DockTitle(QWidget *parent) : QFrame(parent), d_ptr(std::make_unique<DockTitlePrivate>())
+{
+    Q_D(DockTitle);
+    d->q_ptr = this;
+    d->initCollapseButton();
+    d->initLabel();
+    d->initMenu();
+    d->initLayout();
+}
+
+DockTitle::~DockTitle() = default;
+
+QMenu *DockTitle::menu() const
+{
+    Q_D(const DockTitle);
+    return d->menu;
+}
+
+void DockTitle::setText(const QString &text)
+{
+    Q_D(DockTitle);
+    d->label->setText(text);
+}
+
+void DockTitle::setCollapseButtonVisible(bool visible)
+{
+    Q_D(DockTitle);
+    d->collapseButton->setVisible(visible);
+}
+
+bool DockTitle::event(QEvent *event)
+{
+    return isEarlyPolish(this, event) || QFrame::event(event);
+}
+
+} // namespace VornFrame
