@@ -6,6 +6,8 @@
 // beside its baseline in one run, because only the ratio of the two means anything on another
 // machine. Run it with --benchmark_format=json for figures that a program can read.
 
+#include "BenchmarkSupport.h"
+
 #include <VornFrame/RibbonBar.h>
 #include <VornFrame/RibbonGroup.h>
 #include <VornFrame/RibbonPage.h>
@@ -15,10 +17,8 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QHBoxLayout>
-#include <QLoggingCategory>
 #include <QPushButton>
 #include <QStyle>
-#include <QStyleFactory>
 #include <QTabWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -35,30 +35,6 @@ namespace {
 constexpr int GroupsPerPage = 8;
 constexpr int ActionsPerGroup = 10;
 constexpr QSize WindowSize(1400, 800);
-
-/// Notices when the window that it watches has been painted.
-class PaintWatcher : public QObject
-{
-public:
-    explicit PaintWatcher(QWidget *window) { window->installEventFilter(this); }
-
-    void waitForPaint()
-    {
-        while (!m_painted)
-            QCoreApplication::processEvents();
-        QCoreApplication::processEvents();
-        m_painted = false;
-    }
-
-    bool eventFilter(QObject * /*watched*/, QEvent *event) override
-    {
-        m_painted = m_painted || event->type() == QEvent::UpdateRequest;
-        return false;
-    }
-
-private:
-    bool m_painted = false;
-};
 
 /// All names are equally wide, so that no page makes its window wider than another one did.
 QString commandName(int page, int group, int action)
@@ -273,11 +249,6 @@ void ribbonFirstSwitch(benchmark::State &state)
     firstSwitch<RibbonBar>(state, createRibbonWindow<addRibbonPage>);
 }
 
-void timed(benchmark::internal::Benchmark *benchmark)
-{
-    benchmark->UseManualTime()->Unit(benchmark::kMillisecond);
-}
-
 void timedFor10And30Pages(benchmark::internal::Benchmark *benchmark)
 {
     timed(benchmark->Arg(10)->Arg(30));
@@ -293,18 +264,3 @@ BENCHMARK(plainHideTabs)->Apply(timed);
 BENCHMARK(ribbonHideTemporaryPages)->Apply(timed);
 
 } // namespace
-
-int main(int argc, char **argv)
-{
-    // The offscreen platform speaks up at every window that it opens.
-    QLoggingCategory::setFilterRules(u"*.warning=false"_s);
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
-    const QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -72,6 +72,8 @@ protected:
     /// For subclasses inside the library: takes \a d over and sets nothing up.
     DockContainer(DockContainerPrivate &d, QWidget *parent);
 
+    void changeEvent(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QWidget>
 
@@ -16,6 +17,13 @@ namespace VornFrame {
 inline bool isEarlyPolish(const QWidget *widget, const QEvent *event)
 {
     return event->type() == QEvent::PolishRequest && !widget->isVisible();
+}
+
+/// Takes that request back for a widget of a class that does not swallow it.
+inline void dropEarlyPolish(QWidget *widget)
+{
+    if (!widget->isVisible())
+        QCoreApplication::removePostedEvents(widget, QEvent::PolishRequest);
 }
 
 } // namespace VornFrame

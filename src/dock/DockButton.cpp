@@ -44,7 +44,10 @@ QPixmap DockButtonPrivate::composed(qreal ratio) const
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     for (int i = 0; i < count; ++i) {
         const QPixmap pixmap = icons.at(i).pixmap(DockMetrics::IconSize, ratio);
-        painter.drawPixmap(QRect(i * step, pixmap.size()), pixmap);
+        // An icon that has no picture of this size lies in the middle of its cell.
+        QRect target({}, pixmap.size());
+        target.moveCenter(QRect(i * step, cell).center());
+        painter.drawPixmap(target, pixmap);
     }
     painter.end();
     picture.setDevicePixelRatio(ratio);

@@ -19,7 +19,6 @@
 #include <algorithm>
 #include <array>
 #include <initializer_list>
-#include <numeric>
 
 namespace VornFrame {
 
@@ -38,25 +37,26 @@ void setStretches(QSplitter *splitter, std::initializer_list<int> factors)
         splitter->setStretchFactor(index++, factor);
 }
 
-/// The sizes of \a splitter; before its first layout what its widgets ask for.
-QList<int> sizesOf(const QSplitter *splitter)
-{
-    QList<int> sizes = splitter->sizes();
-    if (std::any_of(sizes.cbegin(), sizes.cend(), [](int size) { return size > 0; }))
-        return sizes;
-    for (int i = 0; i < sizes.size(); ++i) {
-        const QSize hint = splitter->widget(i)->sizeHint();
-        sizes[i] = splitter->orientation() == Qt::Horizontal ? hint.width() : hint.height();
-    }
-    return sizes;
-}
-
 /// The room for a side that is restored. A saved state can hold any number, and the window may be
 /// smaller than it was.
-int roomFor(qint32 remembered, const QList<int> &sizes)
+int roomFor(qint32 remembered, int whole)
 {
-    const int whole = std::accumulate(sizes.cbegin(), sizes.cend(), 0);
     return remembered > 0 && remembered <= whole ? remembered : whole / 4;
+}
+
+/// The room for a side that has never had any.
+int firstRoomFor(int wanted, int whole)
+{
+    return qMin(wanted, whole / 4);
+}
+
+/// The style sheet has rules for each layout direction, and looks for them only when told to.
+void polishAgain(QWidget *widget)
+{
+    if (widget && widget->testAttribute(Qt::WA_WState_Polished)) {
+        widget->style()->unpolish(widget);
+        widget->style()->polish(widget);
+    }
 }
 
 /// Whether QSplitter understands \a state and gets what a level splitter of \a count widgets can
@@ -85,35 +85,35 @@ bool isSplitterState(const QByteArray &state, int count)
     bool opaqueResize = false;
     qint32 orientation = 0;
     stream >> childrenCollapsible >> handleWidth >> opaqueResize >> orientation;
-    return stream.status() == QDataStream::Ok && orientation == Qt::Horizontal;
+    // The handles never have a width; a large one would take that of the column.
+    return stream.status() == QDataStream::Ok && handleWidth == 0 && orientation == Qt::Horizontal;
 }
 
 } // namespace
 
 void DockContainerPrivate::init()
 {
+    // The sheet first and then from the outside to the inside: what is added to a styled parent is
+    // polished once. A widget that is polished with its sheet on reads that twice.
+    q_ptr->ensurePolished();
+    StyleSheets::load(q_ptr, ResourcePaths::DockSheet);
     for (DockPanelWidget *side : {left, bottom, right})
         side->setParent(q_ptr);
     initLayout();
     initConnections();
-    content->hide();
-    StyleSheets::load(q_ptr, ResourcePaths::DockSheet);
 }
 
 void DockContainerPrivate::initLayout()
 {
-    vSplitter->setHandleWidth(0);
-    vSplitter->addWidget(content);
-    vSplitter->addWidget(bottom->stackedWidget());
-    setStretches(vSplitter, {50, 1});
+    content->hide();
+    auto *layout = new QHBoxLayout(q_ptr);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addWidget(left->panel());
+    layout->addWidget(hSplitter);
+    layout->addWidget(right->panel());
 
     auto *column = new QWidget;
-    auto *columnLayout = new QVBoxLayout(column);
-    columnLayout->setContentsMargins({});
-    columnLayout->setSpacing(0);
-    columnLayout->addWidget(vSplitter);
-    columnLayout->addWidget(bottom->panel(), 0, Qt::AlignLeft);
-
     hSplitter->setHandleWidth(0);
     hSplitter->addWidget(left->stackedWidget());
     hSplitter->addWidget(column);
@@ -121,12 +121,16 @@ void DockContainerPrivate::initLayout()
     setStretches(hSplitter, {1, 5, 1});
     hSplitter->setCollapsible(Column, false);
 
-    auto *layout = new QHBoxLayout(q_ptr);
-    layout->setContentsMargins({});
-    layout->setSpacing(0);
-    layout->addWidget(left->panel());
-    layout->addWidget(hSplitter);
-    layout->addWidget(right->panel());
+    auto *columnLayout = new QVBoxLayout(column);
+    columnLayout->setContentsMargins({});
+    columnLayout->setSpacing(0);
+    columnLayout->addWidget(vSplitter);
+    columnLayout->addWidget(bottom->panel(), 0, Qt::AlignLeft);
+
+    vSplitter->setHandleWidth(0);
+    vSplitter->addWidget(content);
+    vSplitter->addWidget(bottom->stackedWidget());
+    setStretches(vSplitter, {50, 1});
 }
 
 void DockContainerPrivate::initConnections()
@@ -170,24 +174,64 @@ void DockContainerPrivate::followVerticalMove()
         bottomHeight = height;
 }
 
+/// The first layout: QSplitter would give the sides all that their widgets ask for and the content
+/// the rest.
+void DockContainerPrivate::arrangeSides()
+{
+    QList<int> sizes = hSplitter->sizes();
+    if (sizes.size() <= RightSide)
+        return;
+    const auto arrange = [this, &sizes](int index, const DockPanelWidget *side, qint32 remembered) {
+        const int before = sizes.at(index);
+        if (side->isMinimized())
+            sizes[index] = 0;
+        else if (remembered > 0 && (before == 0 || !widthsRestored))
+            sizes[index] = roomFor(remembered, hSplitter->width());
+        else if (!widthsRestored)
+            sizes[index] = firstRoomFor(hSplitter->widget(index)->sizeHint().width(),
+                                        hSplitter->width());
+        sizes[Column] += before - sizes.at(index);
+    };
+    arrange(LeftSide, left, leftWidth);
+    arrange(RightSide, right, rightWidth);
+    hSplitter->setSizes(sizes);
+}
+
+/// The same for the bottom side, when the content is seen beside it for the first time.
+void DockContainerPrivate::arrangeBottom()
+{
+    if (!arranged || bottomArranged || content->isHidden() || vSplitter->count() <= BottomSide)
+        return;
+    bottomArranged = true;
+    const int whole = vSplitter->height();
+    int height = 0;
+    if (bottom->isMinimized())
+        height = 0;
+    else if (bottomHeight > 0)
+        height = roomFor(bottomHeight, whole);
+    else
+        height = firstRoomFor(vSplitter->widget(BottomSide)->sizeHint().height(), whole);
+    vSplitter->setSizes({whole - height, height});
+}
+
 /// The column in the middle gives or takes the room.
 void DockContainerPrivate::resizeSide(int index, qint32 &width, bool minimized) const
 {
-    QList<int> sizes = sizesOf(hSplitter);
-    if (sizes.size() <= RightSide)
+    QList<int> sizes = hSplitter->sizes();
+    if (!arranged || sizes.size() <= RightSide)
         return;
     const int before = sizes.at(index);
     if (minimized && before > 0)
         width = before;
-    sizes[index] = minimized ? 0 : roomFor(width, sizes);
+    sizes[index] = minimized ? 0 : roomFor(width, hSplitter->width());
     sizes[Column] += before - sizes.at(index);
     hSplitter->setSizes(sizes);
 }
 
 void DockContainerPrivate::resizeBottom(bool minimized)
 {
-    QList<int> sizes = sizesOf(vSplitter);
-    if (sizes.size() <= BottomSide)
+    QList<int> sizes = vSplitter->sizes();
+    if (!arranged || sizes.size() <= BottomSide)
         return;
     const int before = sizes.at(BottomSide);
     if (minimized) {
@@ -200,7 +244,7 @@ void DockContainerPrivate::resizeBottom(bool minimized)
         const int whole = vSplitter->height();
         if (!content->isHidden() && (bottomHeight == 0 || bottomHeight == whole))
             bottomHeight = whole / 4;
-        sizes[BottomSide] = roomFor(bottomHeight, sizes);
+        sizes[BottomSide] = roomFor(bottomHeight, whole);
     }
     sizes[Content] += before - sizes.at(BottomSide);
     vSplitter->setSizes(sizes);
@@ -212,6 +256,7 @@ void DockContainerPrivate::setContentVisible(bool visible)
         content->show();
         if (content->height() == 0 && savedContentHeight != 0)
             makeRoomForContent();
+        arrangeBottom();
         return;
     }
     savedContentHeight = content->height();
@@ -247,15 +292,17 @@ void DockContainerPrivate::alignBottomBar() const
     statusBar->movePanel(seen.left());
 }
 
-void DockContainerPrivate::restoreWidths(const QByteArray &state) const
+void DockContainerPrivate::restoreWidths(const QByteArray &state)
 {
     if (!isSplitterState(state, hSplitter->count()))
         return;
     const bool collapsible = hSplitter->childrenCollapsible();
-    hSplitter->restoreState(state);
+    const bool opaqueResize = hSplitter->opaqueResize();
+    widthsRestored = hSplitter->restoreState(state);
     // These are no matter of the layout, though QSplitter saves them too.
     hSplitter->setChildrenCollapsible(collapsible);
-    hSplitter->setHandleWidth(0);
+    if (hSplitter->opaqueResize() != opaqueResize)
+        hSplitter->setOpaqueResize(opaqueResize);
 }
 
 DockContainer::DockContainer(QWidget *parent) : DockContainer(*new DockContainerPrivate, parent)
@@ -361,6 +408,30 @@ void DockContainer::restoreState(const QByteArray &state)
     d->bottomHeight = sides[1];
     d->rightWidth = sides[2];
     QTimer::singleShot(0, this, [d] { d->alignBottomBar(); });
+}
+
+void DockContainer::showEvent(QShowEvent *event)
+{
+    Q_D(DockContainer);
+    QFrame::showEvent(event);
+    if (d->arranged)
+        return;
+    d->arranged = true;
+    d->arrangeSides();
+    d->arrangeBottom();
+}
+
+void DockContainer::changeEvent(QEvent *event)
+{
+    Q_D(DockContainer);
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange) {
+        for (const DockPanelWidget *side : {d->left, d->right}) {
+            polishAgain(side->panel());
+            polishAgain(side->stackedWidget());
+        }
+        d->alignBottomBar();
+    }
 }
 
 bool DockContainer::eventFilter(QObject *watched, QEvent *event)

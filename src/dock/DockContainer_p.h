@@ -29,6 +29,8 @@ public:
     void initLayout();
     void initConnections();
 
+    void arrangeSides();
+    void arrangeBottom();
     void followHorizontalMove();
     void followVerticalMove();
     void resizeSide(int index, qint32 &width, bool minimized) const;
@@ -37,7 +39,7 @@ public:
     void makeRoomForContent() const;
     void alignBottomBar() const;
 
-    void restoreWidths(const QByteArray &state) const;
+    void restoreWidths(const QByteArray &state);
 
     QSplitter *hSplitter = new QSplitter(Qt::Horizontal); ///< left side, column, right side
     QSplitter *vSplitter = new QSplitter(Qt::Vertical); ///< content, bottom side
@@ -51,6 +53,9 @@ public:
     qint32 bottomHeight = 0; ///< the last height of the bottom side that was not 0
     qint32 rightWidth = 0; ///< the last width of the right side that was not 0
     qint32 savedContentHeight = 0; ///< of the content when it was last hidden
+    bool widthsRestored = false; ///< the splitter got its sizes from a saved state
+    bool arranged = false; ///< the first layout is done; before it, sizes mean nothing
+    bool bottomArranged = false;
     DockContainer *q_ptr = nullptr;
 };
 

@@ -5,6 +5,10 @@
 
 #include "DockContentWidget_p.h"
 
+#include "DockTabWidget.h"
+
+#include "core/LazyPolish.h"
+
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QMouseEvent>
@@ -224,9 +228,12 @@ int DockContentWidget::addSection(const QString &text)
 {
     Q_D(DockContentWidget);
     auto *page = new QWidget;
+    const int index = d->sectionWidget->addTab(page, text);
+    // While it is empty: what it gets is polished when it is first shown and not with the window.
+    page->ensurePolished();
     auto *layout = new QHBoxLayout(page);
     layout->setContentsMargins(SectionMargin, SectionMargin, SectionMargin, SectionMargin);
-    auto *tabs = new QTabWidget(page);
+    auto *tabs = new DockTabWidget(page);
     layout->addWidget(tabs);
     tabs->setObjectName(u"dockTabWidget"_s);
     tabs->setTabsClosable(true);
@@ -234,7 +241,6 @@ int DockContentWidget::addSection(const QString &text)
     tabs->tabBar()->setObjectName(u"dockTabBar"_s);
     tabs->tabBar()->setAccessibleName(text);
     tabs->tabBar()->setContextMenuPolicy(Qt::CustomContextMenu);
-    const int index = d->sectionWidget->addTab(page, text);
     d->sectionWidget->setTabVisible(index, false);
     d->sections.insert(index, tabs);
     d->wireSection(tabs);
@@ -304,6 +310,7 @@ int DockContentWidget::addTab(int section, QWidget *widget, const QString &text)
     const bool hadTabs = d->hasTabs();
     const QScopedValueRollback moving(d->movingTabs, true);
     const int index = tabs->addTab(widget, text);
+    dropEarlyPolish(widget);
     if (!d->hasTabs()) // a slot removed it
         return -1;
     d->enterFilled();

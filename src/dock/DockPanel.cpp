@@ -8,7 +8,6 @@
 #include "DockButton.h"
 
 #include <QEvent>
-#include <QStyle>
 
 using namespace Qt::StringLiterals;
 
@@ -26,7 +25,10 @@ void DockPanelPrivate::initLayout()
     const bool horizontal = orientation == Qt::Horizontal;
     // The style sheets select by this property, and a layout asks the style.
     q_ptr->setProperty("orientation", horizontal ? u"horizontal"_s : u"vertical"_s);
-    layout = new QBoxLayout(horizontal ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, q_ptr);
+    if (horizontal)
+        layout = new QHBoxLayout(q_ptr);
+    else
+        layout = new QVBoxLayout(q_ptr);
     layout->setSpacing(BarSpacing);
     if (horizontal) {
         layout->setContentsMargins(BarEndMargin, 0, BarEndMargin, 0);
@@ -186,16 +188,6 @@ bool DockPanel::event(QEvent *event)
     if (event->type() == QEvent::LayoutRequest)
         d->fitWidth();
     return handled;
-}
-
-void DockPanel::changeEvent(QEvent *event)
-{
-    QFrame::changeEvent(event);
-    // The style sheet knows a rule for each direction, and looks for it only when told to.
-    if (event->type() == QEvent::LayoutDirectionChange && testAttribute(Qt::WA_WState_Polished)) {
-        style()->unpolish(this);
-        style()->polish(this);
-    }
 }
 
 } // namespace VornFrame

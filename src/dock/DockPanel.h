@@ -46,7 +46,6 @@ Q_SIGNALS:
 
 protected:
     bool event(QEvent *event) override;
-    void changeEvent(QEvent *event) override;
 
 private:
     Q_DECLARE_PRIVATE(DockPanel)

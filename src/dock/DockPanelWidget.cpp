@@ -62,9 +62,15 @@ bool DockPanelWidgetPrivate::accepts(const QWidget *view) const
     return view && view != stack && !view->isAncestorOf(stack);
 }
 
+QStackedWidget *DockPanelWidgetPrivate::livingStack() const
+{
+    return stack && stack->layout() ? stack.data() : nullptr;
+}
+
 QSplitter *DockPanelWidgetPrivate::page(int index) const
 {
-    return stack ? qobject_cast<QSplitter *>(stack->widget(index)) : nullptr;
+    const QStackedWidget *living = livingStack();
+    return living ? qobject_cast<QSplitter *>(living->widget(index)) : nullptr;
 }
 
 DockView *DockPanelWidgetPrivate::makeView(QWidget *view, const QString &text)
@@ -98,7 +104,7 @@ void DockPanelWidgetPrivate::wireCollapsing(QSplitter *page, DockView *added)
 
 void DockPanelWidgetPrivate::showClicked(int index)
 {
-    if (!stack)
+    if (!livingStack())
         return;
     if (index >= 0)
         stack->setCurrentIndex(index);
@@ -151,6 +157,9 @@ DockPanelWidget::~DockPanelWidget()
     // What happens while the pages go is nobody's business any more.
     if (d->stack)
         d->stack->disconnect(this);
+    // Here already, because the views may still ask.
+    delete d->panel;
+    delete d->stack;
 }
 
 QWidget *DockPanelWidget::panel() const
@@ -172,7 +181,10 @@ int DockPanelWidget::addView(QWidget *view, const QIcon &icon, const QString &te
         return -1;
     d->panel->addButton(text, icon);
     DockView *dockView = d->makeView(view, text);
-    auto *page = new QSplitter(d->panel->orientation());
+    // A child of the stack from the start, so that the view gets its style once; polished while it
+    // is empty, so that the view is polished when it is first shown and not with the window.
+    auto *page = new QSplitter(d->panel->orientation(), d->stack);
+    page->ensurePolished();
     page->setHandleWidth(0);
     page->addWidget(dockView);
     page->setCollapsible(0, false);
@@ -205,13 +217,15 @@ void DockPanelWidget::addSeparator()
 int DockPanelWidget::count() const
 {
     Q_D(const DockPanelWidget);
-    return d->stack ? d->stack->count() : 0;
+    const QStackedWidget *stack = d->livingStack();
+    return stack ? stack->count() : 0;
 }
 
 int DockPanelWidget::currentIndex() const
 {
     Q_D(const DockPanelWidget);
-    return d->stack && d->stack->width() >= 1 ? d->stack->currentIndex() : -1;
+    const QStackedWidget *stack = d->livingStack();
+    return stack && stack->width() >= 1 ? stack->currentIndex() : -1;
 }
 
 void DockPanelWidget::setCurrentIndex(int index)

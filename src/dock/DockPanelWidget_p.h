@@ -24,7 +24,10 @@ public:
     virtual ~DockPanelWidgetPrivate();
 
     void init();
-    bool isAlive() const { return panel && stack; }
+    bool isAlive() const { return panel && livingStack(); }
+    /// The stack; null also while it is deleted. Its views may ask the side until they are gone, but
+    /// the layout, which knows the pages, goes before the pages.
+    QStackedWidget *livingStack() const;
     bool accepts(const QWidget *view) const;
     QSplitter *page(int index) const;
     DockView *makeView(QWidget *view, const QString &text);

@@ -79,8 +79,10 @@ bool DockStatusBar::eventFilter(QObject *watched, QEvent *event)
         // Its buttons come and go, and the style sheet gives it another size when it is polished.
         if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize)
             d->fitPanel();
-    } else if (watched == d->host && event->type() == QEvent::Resize) {
-        d->alignPanel();
+    } else if (watched == d->host) {
+        // It moves alone where the layout direction turns.
+        if (event->type() == QEvent::Resize || event->type() == QEvent::Move)
+            d->alignPanel();
     }
     return QStatusBar::eventFilter(watched, event);
 }

@@ -7,8 +7,11 @@
 
 #include "core/LazyPolish.h"
 #include "core/ResourcePaths.h"
+#include "core/SharedIcons.h"
 
 #include <QHBoxLayout>
+
+#include <initializer_list>
 
 namespace VornFrame {
 
@@ -23,10 +26,8 @@ constexpr QSize MenuIconSize(10, 10);
 
 void DockTitlePrivate::initCollapseButton()
 {
-    QIcon icon;
-    icon.addFile(ResourcePaths::DownArrowNormal, {}, QIcon::Normal, QIcon::Off);
-    icon.addFile(ResourcePaths::RightArrowNormal, {}, QIcon::Normal, QIcon::On);
-    collapseButton->setIcon(icon);
+    collapseButton->setIcon(
+        SharedIcons::toggleIcon(ResourcePaths::DownArrowNormal, ResourcePaths::RightArrowNormal));
     collapseButton->setIconSize(CollapseIconSize);
     collapseButton->setFlat(true);
     collapseButton->setCheckable(true);
@@ -49,7 +50,7 @@ void DockTitlePrivate::initMenu()
     minimizeAction = menu->addAction(DockTitle::tr("minimize to bar"));
     QObject::connect(minimizeAction, &QAction::triggered, q_ptr, &DockTitle::signalMinimize);
 
-    menuButton->setIcon(QIcon(ResourcePaths::Menu));
+    menuButton->setIcon(SharedIcons::icon(ResourcePaths::Menu));
     menuButton->setIconSize(MenuIconSize);
     menuButton->setFlat(true);
     menuButton->setAccessibleName(DockTitle::tr("View menu"));
@@ -81,6 +82,9 @@ DockTitle::DockTitle(QWidget *parent) : QFrame(parent), d_ptr(std::make_unique<D
     d->initLabel();
     d->initMenu();
     d->initLayout();
+    for (QWidget *part :
+         std::initializer_list<QWidget *>{d->collapseButton, d->label, d->menuButton, d->menu})
+        dropEarlyPolish(part);
 }
 
 DockTitle::~DockTitle() = default;

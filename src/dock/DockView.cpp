@@ -23,7 +23,11 @@ DockView::DockView(QWidget *parent) : QFrame(parent), d_ptr(std::make_unique<Doc
     connect(d->title, &DockTitle::signalMinimize, this, &DockView::signalMinimize);
 }
 
-DockView::~DockView() = default;
+DockView::~DockView()
+{
+    // It may ask for its menu while it goes, so it goes before what answers.
+    delete widget();
+}
 
 void DockView::setTitle(const QString &title)
 {
@@ -42,6 +46,7 @@ void DockView::setWidget(QWidget *widget)
         return;
     widget->setMinimumHeight(0);
     layout()->addWidget(widget);
+    dropEarlyPolish(widget);
 }
 
 QWidget *DockView::widget() const
@@ -68,9 +73,24 @@ int DockView::titleHeight() const
     return d->title->height();
 }
 
+QSize DockView::sizeHint() const
+{
+    return testAttribute(Qt::WA_WState_Polished) ? QFrame::sizeHint() : QSize(0, 0);
+}
+
+QSize DockView::minimumSizeHint() const
+{
+    return testAttribute(Qt::WA_WState_Polished) ? QFrame::minimumSizeHint() : QSize(0, 0);
+}
+
 bool DockView::event(QEvent *event)
 {
-    return isEarlyPolish(this, event) || QFrame::event(event);
+    if (isEarlyPolish(this, event))
+        return true;
+    const bool handled = QFrame::event(event);
+    if (event->type() == QEvent::Polish)
+        updateGeometry();
+    return handled;
 }
 
 } // namespace VornFrame

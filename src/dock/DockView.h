@@ -36,6 +36,11 @@ public:
     /// The height of the title bar as it is now, in px.
     int titleHeight() const;
 
+    /// Both empty until the view is shown for the first time: to measure the views that nobody has
+    /// seen yet costs more than to build them.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
 Q_SIGNALS:
     /// The user asked for the side to be minimized.
     void signalMinimize();
