@@ -72,6 +72,7 @@ package_names() {
     format) echo clang-format shellcheck ;;
     tidy) echo clang clang-tidy python3 ;;
     clazy) echo clang clazy python3 ;;
+    fuzz) echo clang libclang-rt-dev ;;
     tree) echo debootstrap debian-archive-keyring util-linux ;;
     *) die "no such group of packages: $1" ;;
     esac

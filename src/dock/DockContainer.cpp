@@ -257,6 +257,10 @@ void DockContainerPrivate::setContentVisible(bool visible)
         if (content->height() == 0 && savedContentHeight != 0)
             makeRoomForContent();
         arrangeBottom();
+        // The content may come back before the bottom side got the room that it left.
+        if (!bottom->isMinimized() && bottom->count() > 0
+            && vSplitter->sizes().value(BottomSide) == 0)
+            resizeBottom(false);
         return;
     }
     savedContentHeight = content->height();
@@ -276,7 +280,8 @@ void DockContainerPrivate::makeRoomForContent() const
     }
     if (!bottom->isMinimized() && (sizes.at(Content) <= 0 || sizes.at(BottomSide) <= 0)) {
         const int whole = vSplitter->height();
-        sizes[Content] = whole * 3 / 4;
+        // A side without views would be an empty strip.
+        sizes[Content] = bottom->count() > 0 ? whole * 3 / 4 : whole;
         sizes[BottomSide] = whole - sizes.at(Content);
     }
     vSplitter->setSizes(sizes);

@@ -35,7 +35,7 @@ QString nameOf(DockPanelWidget::DockPanelDirection direction)
 DockPanelWidgetPrivate::DockPanelWidgetPrivate(DockPanelWidget::DockPanelDirection direction)
     : panel(new DockPanel(direction == DockPanelWidget::Bottom ? Qt::Horizontal : Qt::Vertical,
                           nullptr)),
-      stack(new QStackedWidget)
+      stack(new QStackedWidget), pages(stack->layout())
 {
     const QString name = nameOf(direction);
     panel->setProperty("direction", name);
@@ -46,7 +46,7 @@ DockPanelWidgetPrivate::~DockPanelWidgetPrivate()
 {
     // They may lie in two windows, or in none.
     delete panel;
-    delete stack;
+    delete livingStack();
 }
 
 void DockPanelWidgetPrivate::init()
@@ -64,7 +64,7 @@ bool DockPanelWidgetPrivate::accepts(const QWidget *view) const
 
 QStackedWidget *DockPanelWidgetPrivate::livingStack() const
 {
-    return stack && stack->layout() ? stack.data() : nullptr;
+    return pages ? stack.data() : nullptr;
 }
 
 QSplitter *DockPanelWidgetPrivate::page(int index) const
@@ -155,11 +155,12 @@ DockPanelWidget::~DockPanelWidget()
 {
     Q_D(DockPanelWidget);
     // What happens while the pages go is nobody's business any more.
-    if (d->stack)
-        d->stack->disconnect(this);
-    // Here already, because the views may still ask.
+    QStackedWidget *stack = d->livingStack();
+    if (stack)
+        stack->disconnect(this);
+    // Before the private object goes, because the views may still ask.
     delete d->panel;
-    delete d->stack;
+    delete stack;
 }
 
 QWidget *DockPanelWidget::panel() const
@@ -171,7 +172,7 @@ QWidget *DockPanelWidget::panel() const
 QWidget *DockPanelWidget::stackedWidget() const
 {
     Q_D(const DockPanelWidget);
-    return d->stack;
+    return d->livingStack();
 }
 
 int DockPanelWidget::addView(QWidget *view, const QIcon &icon, const QString &text)

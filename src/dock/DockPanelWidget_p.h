@@ -8,6 +8,7 @@
 #include "DockPanel.h"
 #include "DockView.h"
 
+#include <QLayout>
 #include <QList>
 #include <QPointer>
 #include <QSplitter>
@@ -25,8 +26,8 @@ public:
 
     void init();
     bool isAlive() const { return panel && livingStack(); }
-    /// The stack; null also while it is deleted. Its views may ask the side until they are gone, but
-    /// the layout, which knows the pages, goes before the pages.
+    /// The stack; null also while it is being deleted, because its views may ask the side until
+    /// they are gone.
     QStackedWidget *livingStack() const;
     bool accepts(const QWidget *view) const;
     QSplitter *page(int index) const;
@@ -41,6 +42,7 @@ public:
     QPointer<QStackedWidget> stack; ///< a page is a splitter with the views of one slot
     bool minimized = false; ///< the stack has been given no room
     QList<QPointer<DockView>> views; ///< of all slots, in the order they were made
+    QPointer<QLayout> pages; ///< the layout of the stack, which goes before its pages do
     DockPanelWidget *q_ptr = nullptr;
 };
 

@@ -84,6 +84,24 @@ void DockTabBarPrivate::parkButton(int index)
     q_ptr->setTabButton(index, closeSide(), nullptr);
 }
 
+/// For tabs that come and go while others do: a slot of currentChanged() may add and remove some, and
+/// the bar reports the inner changes first. The close buttons are all alike.
+void DockTabBarPrivate::startAnew()
+{
+    QList<QWidget *> parked;
+    for (const Tab &tab : std::as_const(tabs)) {
+        if (tab.parkedButton)
+            parked.append(tab.parkedButton);
+    }
+    tabs = QList<Tab>(q_ptr->count());
+    for (int i = 0; i < tabs.size() && !parked.isEmpty(); ++i) {
+        if (!q_ptr->tabButton(i, closeSide()))
+            tabs[i].parkedButton = parked.takeFirst();
+    }
+    for (QWidget *button : std::as_const(parked))
+        button->deleteLater();
+}
+
 /// The first time that the bar is seen.
 void DockTabBarPrivate::reveal()
 {
@@ -118,7 +136,10 @@ DockTabBar::DockTabBar(QWidget *parent)
 {
     Q_D(DockTabBar);
     d->q_ptr = this;
-    connect(this, &QTabBar::tabMoved, this, [d](int from, int to) { d->tabs.move(from, to); });
+    connect(this, &QTabBar::tabMoved, this, [d](int from, int to) {
+        if (d->tabs.size() == d->q_ptr->count())
+            d->tabs.move(from, to);
+    });
 }
 
 DockTabBar::~DockTabBar() = default;
@@ -163,7 +184,10 @@ void DockTabBar::tabInserted(int index)
 {
     Q_D(DockTabBar);
     QTabBar::tabInserted(index);
-    d->tabs.insert(index, {});
+    if (d->tabs.size() + 1 == count())
+        d->tabs.insert(index, {});
+    else
+        d->startAnew();
     if (!isVisible() || !d->isNearView(index))
         d->parkButton(index);
 }
@@ -172,6 +196,10 @@ void DockTabBar::tabRemoved(int index)
 {
     Q_D(DockTabBar);
     QTabBar::tabRemoved(index);
+    if (d->tabs.size() != count() + 1) {
+        d->startAnew();
+        return;
+    }
     if (QWidget *button = d->tabs.takeAt(index).parkedButton)
         button->deleteLater();
 }

@@ -50,6 +50,7 @@ public:
     QTabBar::ButtonPosition closeSide() const;
     bool isNearView(int index) const;
     void parkButton(int index);
+    void startAnew();
     void reveal();
     void bringButtons();
 

@@ -41,7 +41,15 @@ void DockTitlePrivate::initCollapseButton()
 void DockTitlePrivate::initLabel()
 {
     label->setTextFormat(Qt::PlainText);
+    alignLabel();
     label->setSizePolicy(label->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
+}
+
+/// A label goes by the direction of its text; a title stands at the leading edge in any language.
+void DockTitlePrivate::alignLabel()
+{
+    const Qt::Alignment leading = q_ptr->isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
+    label->setAlignment(leading | Qt::AlignAbsolute | Qt::AlignVCenter);
 }
 
 void DockTitlePrivate::initMenu()
@@ -105,6 +113,14 @@ void DockTitle::setCollapseButtonVisible(bool visible)
 {
     Q_D(DockTitle);
     d->collapseButton->setVisible(visible);
+}
+
+void DockTitle::changeEvent(QEvent *event)
+{
+    Q_D(DockTitle);
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        d->alignLabel();
 }
 
 bool DockTitle::event(QEvent *event)

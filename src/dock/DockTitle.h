@@ -37,6 +37,7 @@ Q_SIGNALS:
     void signalCollapsed(bool collapsed);
 
 protected:
+    void changeEvent(QEvent *event) override;
     bool event(QEvent *event) override;
 
 private:

@@ -17,6 +17,7 @@ class DockTitlePrivate
 public:
     void initCollapseButton();
     void initLabel();
+    void alignLabel();
     void initMenu();
     void initLayout();
 
