@@ -309,8 +309,8 @@ int DockContentWidget::addTab(int section, QWidget *widget, const QString &text)
         return -1;
     const bool hadTabs = d->hasTabs();
     const QScopedValueRollback moving(d->movingTabs, true);
-    const int index = tabs->addTab(widget, text);
     dropEarlyPolish(widget);
+    const int index = tabs->addTab(widget, text);
     if (!d->hasTabs()) // a slot removed it
         return -1;
     d->enterFilled();

@@ -467,7 +467,7 @@ void tst_DockStatusBar::statusBarIs35PxHighBelowItsLine()
     BarWindow window;
     StyleSheets::installGlobalSheet(&window);
     QVERIFY(window.showSetUp());
-    QCOMPARE(window.dockStatusBar()->height(), 35 + 1);
+    QCOMPARE(window.dockStatusBar()->height(), 35);
     QCOMPARE(window.bottomBar()->height(), 31);
     QVERIFY(window.areaOf(window.dockStatusBar()).contains(window.areaOf(window.bottomBar())));
 }

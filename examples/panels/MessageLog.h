@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: VornFrame contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "ToolView.h"
+
+#include <QtMessageHandler>
+
+class QPlainTextEdit;
+
+/// The messages of Qt and of the program since the start, the last ones when there are many.
+class MessageLog : public ToolView
+{
+    Q_OBJECT
+
+public:
+    explicit MessageLog(QWidget *parent = nullptr);
+
+private:
+    void append(QtMsgType type, const QString &text);
+    void clear();
+    void showCount();
+
+    QPlainTextEdit *m_text;
+    int m_count = 0;
+};

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: VornFrame contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "DockState.h"
+
+/// What the program keeps from one start to the next, in an INI file.
+struct PanelsSettings
+{
+    /// What the file at \a path holds. What is missing in it, or makes no sense, is as at first.
+    static PanelsSettings load(const QString &path);
+
+    /// Writes all to the file at \a path, and keeps what else it holds. Returns whether it could.
+    bool save(const QString &path) const;
+
+    /// Where settings of the user belong on this system.
+    static QString defaultPath();
+
+    QByteArray geometry; ///< of the window
+    DockState docks;
+    QString scratchText;
+};
