@@ -52,24 +52,31 @@ void DockTitlePrivate::alignLabel()
     label->setAlignment(leading | Qt::AlignAbsolute | Qt::AlignVCenter);
 }
 
-void DockTitlePrivate::initMenu()
+/// Most views are never asked for their menu, so it is made when it is.
+QMenu *DockTitlePrivate::madeMenu()
 {
-    menu = new QMenu(q_ptr);
-    minimizeAction = menu->addAction(DockTitle::tr("minimize to bar"));
-    QObject::connect(minimizeAction, &QAction::triggered, q_ptr, &DockTitle::signalMinimize);
+    if (!menu) {
+        menu = new QMenu(q_ptr);
+        minimizeAction = menu->addAction(DockTitle::tr("minimize to bar"));
+        QObject::connect(minimizeAction, &QAction::triggered, q_ptr, &DockTitle::signalMinimize);
+    }
+    return menu;
+}
 
+void DockTitlePrivate::initMenuButton()
+{
     menuButton->setIcon(SharedIcons::icon(ResourcePaths::Menu));
     menuButton->setIconSize(MenuIconSize);
     menuButton->setFlat(true);
     menuButton->setAccessibleName(DockTitle::tr("View menu"));
     menuButton->setAutoDefault(false);
     QObject::connect(menuButton, &QPushButton::clicked, q_ptr, [this] {
-        menu->exec(menuButton->mapToGlobal(QPoint(0, menuButton->height())));
+        madeMenu()->exec(menuButton->mapToGlobal(QPoint(0, menuButton->height())));
     });
 
     q_ptr->setContextMenuPolicy(Qt::CustomContextMenu);
     QObject::connect(q_ptr, &DockTitle::customContextMenuRequested, q_ptr,
-                     [this](QPoint pos) { menu->exec(q_ptr->mapToGlobal(pos)); });
+                     [this](QPoint pos) { madeMenu()->exec(q_ptr->mapToGlobal(pos)); });
 }
 
 void DockTitlePrivate::initLayout()
@@ -88,10 +95,10 @@ DockTitle::DockTitle(QWidget *parent) : QFrame(parent), d_ptr(std::make_unique<D
     d->q_ptr = this;
     d->initCollapseButton();
     d->initLabel();
-    d->initMenu();
+    d->initMenuButton();
     d->initLayout();
     for (QWidget *part :
-         std::initializer_list<QWidget *>{d->collapseButton, d->label, d->menuButton, d->menu})
+         std::initializer_list<QWidget *>{d->collapseButton, d->label, d->menuButton})
         dropEarlyPolish(part);
 }
 
@@ -99,8 +106,8 @@ DockTitle::~DockTitle() = default;
 
 QMenu *DockTitle::menu() const
 {
-    Q_D(const DockTitle);
-    return d->menu;
+    // Not a change that anyone could see.
+    return d_ptr->madeMenu();
 }
 
 void DockTitle::setText(const QString &text)

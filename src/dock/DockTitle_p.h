@@ -18,13 +18,14 @@ public:
     void initCollapseButton();
     void initLabel();
     void alignLabel();
-    void initMenu();
+    QMenu *madeMenu();
+    void initMenuButton();
     void initLayout();
 
     QPushButton *collapseButton = new QPushButton;
     QLabel *label = new QLabel;
     QPushButton *menuButton = new QPushButton;
-    QMenu *menu = nullptr; ///< made with the title as its parent
+    QMenu *menu = nullptr; ///< null until it is asked for; the title owns it
     QAction *minimizeAction = nullptr; ///< the first entry of the menu, which owns it
     DockTitle *q_ptr = nullptr;
 };
