@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "DialogFixture.h"
-#include "ModalScript.h"
+#include "support/ModalScript.h"
 
 #include "DocumentController.h"
 #include "NotepadDialog.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: VornFrame contributors
 // SPDX-License-Identifier: MIT
 
-#include "notepad/ModalScript.h"
+#include "support/ModalScript.h"
 #include "PanelsFixture.h"
 
 #include "support/Input.h"
