@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "DialogFixture.h"
-#include "support/ModalScript.h"
 #include "support/Input.h"
+#include "support/ModalScript.h"
 #include "support/PopupDriver.h"
 
 #include "NotepadDialog.h"

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: VornFrame contributors
 // SPDX-License-Identifier: MIT
 
-#include "support/ModalScript.h"
 #include "PanelsFixture.h"
+#include "support/ModalScript.h"
 
 #include "support/Input.h"
 #include "support/PopupDriver.h"
