@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "PanelsFixture.h"
-#include "support/ModalScript.h"
 
 #include "support/Input.h"
+#include "support/ModalScript.h"
 #include "support/PopupDriver.h"
 
 #include "DocumentPage.h"
