@@ -127,7 +127,8 @@ Q_SIGNALS:
     /// of all went.
     void signalCurrentSectionChanged(int section);
     /// The current tab is another one now; -1 in a section without tabs, and both -1 when the last
-    /// tab of all went.
+    /// tab of all went. Not emitted when another widget takes the same place, as after the first of
+    /// several tabs was removed: ask currentWidget() after each removeTab().
     void signalCurrentTabChanged(int section, int index);
     /// The widget wants to be shown, or hidden; a DockContainer does so.
     void signalVisibleChanged(bool visible);
@@ -136,6 +137,7 @@ protected:
     /// For subclasses inside the library: takes \a d over and sets nothing up.
     DockContentWidget(DockContentWidgetPrivate &d, QWidget *parent);
 
+    void changeEvent(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

@@ -66,7 +66,7 @@ public:
     /// The slot that the stack shows; -1 if there is none, and while the stack has no width.
     int currentIndex() const;
     /// Shows slot \a index and checks its button alone; out of range it does nothing. A minimized
-    /// side stays minimized.
+    /// side stays minimized, though a button is checked.
     void setCurrentIndex(int index);
 
     /// Whether the side counts as minimized; false at first.
@@ -78,8 +78,9 @@ public:
     /// Whether the page of slot \a index can be seen now; false out of range.
     bool isViewVisible(int index) const;
     /// Shows or hides the button of slot \a index; out of range it does nothing. Hiding the slot
-    /// that is shown makes another one current, the first that there is; showing one while the side
-    /// is minimized makes it current and restores the side, with signalMinimized().
+    /// that is shown makes the first other one current, also if that is hidden itself; the page of
+    /// an only slot stays. Showing one while the side is minimized makes it current and restores the
+    /// side, with signalMinimized().
     void setViewVisible(int index, bool visible);
 
     /// The menu in the title bar of \a view, to add entries to; null if \a view is not docked here.

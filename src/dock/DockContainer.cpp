@@ -5,6 +5,7 @@
 
 #include "DockContainer_p.h"
 
+#include "core/PolishAgain.h"
 #include "core/ResourcePaths.h"
 #include "core/StyleSheets.h"
 
@@ -19,6 +20,7 @@
 #include <algorithm>
 #include <array>
 #include <initializer_list>
+#include <utility>
 
 namespace VornFrame {
 
@@ -50,19 +52,10 @@ int firstRoomFor(int wanted, int whole)
     return qMin(wanted, whole / 4);
 }
 
-/// The style sheet has rules for each layout direction, and looks for them only when told to.
-void polishAgain(QWidget *widget)
-{
-    if (widget && widget->testAttribute(Qt::WA_WState_Polished)) {
-        widget->style()->unpolish(widget);
-        widget->style()->polish(widget);
-    }
-}
-
-/// Whether QSplitter understands \a state and gets what a level splitter of \a count widgets can
-/// live with. QSplitter itself believes every byte: it makes room for as many sizes as the state
-/// says and turns to any orientation.
-bool isSplitterState(const QByteArray &state, int count)
+/// The sizes in \a state, if QSplitter understands it and gets what a level splitter of \a count
+/// widgets can live with; else none. QSplitter itself believes every byte: it makes room for as many
+/// sizes as the state says and turns to any orientation.
+QList<qint32> sizesIn(const QByteArray &state, int count)
 {
     constexpr qint32 Marker = 0xff;
     constexpr qint32 NewestVersion = 1;
@@ -73,12 +66,12 @@ bool isSplitterState(const QByteArray &state, int count)
     qint32 length = 0;
     stream >> marker >> version >> length;
     if (marker != Marker || version < 0 || version > NewestVersion || length != count)
-        return false;
-    for (int i = 0; i < count; ++i) {
-        qint32 size = 0;
+        return {};
+    QList<qint32> sizes(count);
+    for (qint32 &size : sizes) {
         stream >> size;
         if (size < -1 || size > QWIDGETSIZE_MAX) // -1: never laid out
-            return false;
+            return {};
     }
     bool childrenCollapsible = false;
     qint32 handleWidth = 0;
@@ -86,7 +79,9 @@ bool isSplitterState(const QByteArray &state, int count)
     qint32 orientation = 0;
     stream >> childrenCollapsible >> handleWidth >> opaqueResize >> orientation;
     // The handles never have a width; a large one would take that of the column.
-    return stream.status() == QDataStream::Ok && handleWidth == 0 && orientation == Qt::Horizontal;
+    const bool isSound = stream.status() == QDataStream::Ok && handleWidth == 0
+                         && orientation == Qt::Horizontal;
+    return isSound ? sizes : QList<qint32>();
 }
 
 } // namespace
@@ -97,7 +92,7 @@ void DockContainerPrivate::init()
     // polished once. A widget that is polished with its sheet on reads that twice.
     q_ptr->ensurePolished();
     StyleSheets::load(q_ptr, ResourcePaths::DockSheet);
-    for (DockPanelWidget *side : {left, bottom, right})
+    for (DockPanelWidget *side : {left.data(), bottom.data(), right.data()})
         side->setParent(q_ptr);
     initLayout();
     initConnections();
@@ -139,24 +134,38 @@ void DockContainerPrivate::initConnections()
                      [this] { followHorizontalMove(); });
     QObject::connect(vSplitter, &QSplitter::splitterMoved, q_ptr, [this] { followVerticalMove(); });
     QObject::connect(left, &DockPanelWidget::signalMinimized, q_ptr,
-                     [this](bool minimized) { resizeSide(LeftSide, leftWidth, minimized); });
-    QObject::connect(right, &DockPanelWidget::signalMinimized, q_ptr,
-                     [this](bool minimized) { resizeSide(RightSide, rightWidth, minimized); });
+                     [this](bool minimized) { resizeSide(left, LeftSide, leftWidth, minimized); });
+    QObject::connect(right, &DockPanelWidget::signalMinimized, q_ptr, [this](bool minimized) {
+        resizeSide(right, RightSide, rightWidth, minimized);
+    });
     QObject::connect(bottom, &DockPanelWidget::signalMinimized, q_ptr,
                      [this](bool minimized) { resizeBottom(minimized); });
     QObject::connect(content, &DockContentWidget::signalVisibleChanged, q_ptr,
                      [this](bool visible) { setContentVisible(visible); });
-    // Whatever moves the bottom side in the window.
-    for (QObject *mover : std::initializer_list<QObject *>{
-             bottom->stackedWidget(), vSplitter->parentWidget(), hSplitter, q_ptr})
-        mover->installEventFilter(q_ptr);
+    // A side may get its first view when the window has long been shown.
+    for (const DockPanelWidget *side : {left.data(), right.data(), bottom.data()})
+        QObject::connect(side, &DockPanelWidget::signalCurrentIndexChanged, q_ptr,
+                         [this] { settleSoon(); });
+    // What moves the bottom side in the window, and what can be hidden and shown.
+    for (QObject *watched : std::initializer_list<QObject *>{
+             left->stackedWidget(), right->stackedWidget(), bottom->stackedWidget(), content.data(),
+             vSplitter->parentWidget(), hSplitter, q_ptr})
+        watched->installEventFilter(q_ptr);
+}
+
+/// The container owns them, but a program may delete what it is given.
+bool DockContainerPrivate::isWhole() const
+{
+    return left && left->stackedWidget() && right && right->stackedWidget() && bottom
+           && bottom->stackedWidget() && content;
 }
 
 void DockContainerPrivate::followHorizontalMove()
 {
+    if (!isWhole())
+        return;
     const auto follow = [](DockPanelWidget *side, qint32 &remembered) {
-        const QWidget *stack = side->stackedWidget();
-        const int width = stack ? stack->width() : 0;
+        const int width = side->stackedWidget()->width();
         side->setMinimized(width == 0);
         if (width != 0)
             remembered = width;
@@ -167,59 +176,93 @@ void DockContainerPrivate::followHorizontalMove()
 
 void DockContainerPrivate::followVerticalMove()
 {
-    const QWidget *stack = bottom->stackedWidget();
-    const int height = stack ? stack->height() : 0;
+    if (!isWhole())
+        return;
+    const int height = bottom->stackedWidget()->height();
     bottom->setMinimized(height == 0);
     if (height != 0)
         bottomHeight = height;
 }
 
-/// The first layout: QSplitter would give the sides all that their widgets ask for and the content
-/// the rest.
+void DockContainerPrivate::settleSoon()
+{
+    if (wasShown)
+        QMetaObject::invokeMethod(
+            q_ptr, [this] { settle(); }, Qt::QueuedConnection);
+}
+
+/// Gives the sides that are seen for the first time their room, and takes or gives it where a side
+/// was minimized or restored while it could not be seen.
+void DockContainerPrivate::settle()
+{
+    if (!wasShown || !isWhole())
+        return;
+    arrangeSides();
+    arrangeBottom();
+    const auto isOutOfStep = [](const DockPanelWidget *side, int size) {
+        return side->count() > 0 && !side->stackedWidget()->isHidden()
+               && side->isMinimized() != (size == 0);
+    };
+    if (isOutOfStep(left, hSplitter->sizes().at(LeftSide)))
+        resizeSide(left, LeftSide, leftWidth, left->isMinimized());
+    if (isOutOfStep(right, hSplitter->sizes().at(RightSide)))
+        resizeSide(right, RightSide, rightWidth, right->isMinimized());
+    if (isOutOfStep(bottom, vSplitter->sizes().at(BottomSide)))
+        resizeBottom(bottom->isMinimized());
+}
+
+/// QSplitter would give the sides all that their widgets ask for and the content the rest.
 void DockContainerPrivate::arrangeSides()
 {
     QList<int> sizes = hSplitter->sizes();
-    if (sizes.size() <= RightSide)
-        return;
-    const auto arrange = [this, &sizes](int index, const DockPanelWidget *side, qint32 remembered) {
+    const int whole = hSplitter->width();
+    const auto arrange = [&](int index, const DockPanelWidget *side, bool &arranged,
+                             qint32 remembered) {
+        if (arranged || side->stackedWidget()->isHidden())
+            return;
+        arranged = side->count() > 0;
         const int before = sizes.at(index);
         if (side->isMinimized())
             sizes[index] = 0;
         else if (remembered > 0 && (before == 0 || !widthsRestored))
-            sizes[index] = roomFor(remembered, hSplitter->width());
+            sizes[index] = roomFor(remembered, whole);
         else if (!widthsRestored)
-            sizes[index] = firstRoomFor(hSplitter->widget(index)->sizeHint().width(),
-                                        hSplitter->width());
+            sizes[index] = firstRoomFor(side->stackedWidget()->sizeHint().width(), whole);
         sizes[Column] += before - sizes.at(index);
     };
-    arrange(LeftSide, left, leftWidth);
-    arrange(RightSide, right, rightWidth);
+    arrange(LeftSide, left, leftArranged, leftWidth);
+    arrange(RightSide, right, rightArranged, rightWidth);
     hSplitter->setSizes(sizes);
 }
 
-/// The same for the bottom side, when the content is seen beside it for the first time.
+/// The same for the bottom side, when it is seen beside the content for the first time.
 void DockContainerPrivate::arrangeBottom()
 {
-    if (!arranged || bottomArranged || content->isHidden() || vSplitter->count() <= BottomSide)
+    const QWidget *stack = bottom->stackedWidget();
+    if (!wasShown || bottomArranged || content->isHidden() || stack->isHidden())
         return;
-    bottomArranged = true;
+    bottomArranged = bottom->count() > 0;
     const int whole = vSplitter->height();
     int height = 0;
-    if (bottom->isMinimized())
-        height = 0;
-    else if (bottomHeight > 0)
-        height = roomFor(bottomHeight, whole);
-    else
-        height = firstRoomFor(vSplitter->widget(BottomSide)->sizeHint().height(), whole);
+    if (!bottom->isMinimized())
+        height = bottomHeight > 0 ? roomFor(bottomHeight, whole)
+                                  : firstRoomFor(stack->sizeHint().height(), whole);
     vSplitter->setSizes({whole - height, height});
 }
 
-/// The column in the middle gives or takes the room.
-void DockContainerPrivate::resizeSide(int index, qint32 &width, bool minimized) const
+/// Sides that nobody can see are left to settle().
+bool DockContainerPrivate::canResize(const DockPanelWidget *side) const
 {
-    QList<int> sizes = hSplitter->sizes();
-    if (!arranged || sizes.size() <= RightSide)
+    return wasShown && isWhole() && !side->stackedWidget()->isHidden();
+}
+
+/// The column in the middle gives or takes the room.
+void DockContainerPrivate::resizeSide(const DockPanelWidget *side, int index, qint32 &width,
+                                      bool minimized) const
+{
+    if (!canResize(side))
         return;
+    QList<int> sizes = hSplitter->sizes();
     const int before = sizes.at(index);
     if (minimized && before > 0)
         width = before;
@@ -230,9 +273,9 @@ void DockContainerPrivate::resizeSide(int index, qint32 &width, bool minimized) 
 
 void DockContainerPrivate::resizeBottom(bool minimized)
 {
-    QList<int> sizes = vSplitter->sizes();
-    if (!arranged || sizes.size() <= BottomSide)
+    if (!canResize(bottom))
         return;
+    QList<int> sizes = vSplitter->sizes();
     const int before = sizes.at(BottomSide);
     if (minimized) {
         if (content->isHidden())
@@ -252,15 +295,14 @@ void DockContainerPrivate::resizeBottom(bool minimized)
 
 void DockContainerPrivate::setContentVisible(bool visible)
 {
+    if (!isWhole())
+        return;
     if (visible) {
         content->show();
         if (content->height() == 0 && savedContentHeight != 0)
             makeRoomForContent();
-        arrangeBottom();
-        // The content may come back before the bottom side got the room that it left.
-        if (!bottom->isMinimized() && bottom->count() > 0
-            && vSplitter->sizes().value(BottomSide) == 0)
-            resizeBottom(false);
+        // The content may also come back before the bottom side got the room that it left.
+        settle();
         return;
     }
     savedContentHeight = content->height();
@@ -272,8 +314,6 @@ void DockContainerPrivate::setContentVisible(bool visible)
 void DockContainerPrivate::makeRoomForContent() const
 {
     QList<int> sizes = vSplitter->sizes();
-    if (sizes.size() <= BottomSide)
-        return;
     if (sizes.at(BottomSide) != 0) {
         sizes[Content] = savedContentHeight;
         sizes[BottomSide] -= savedContentHeight;
@@ -299,11 +339,15 @@ void DockContainerPrivate::alignBottomBar() const
 
 void DockContainerPrivate::restoreWidths(const QByteArray &state)
 {
-    if (!isSplitterState(state, hSplitter->count()))
+    const QList<qint32> sizes = sizesIn(state, hSplitter->count());
+    if (sizes.isEmpty())
         return;
     const bool collapsible = hSplitter->childrenCollapsible();
     const bool opaqueResize = hSplitter->opaqueResize();
-    widthsRestored = hSplitter->restoreState(state);
+    // A container that was never shown saves no widths.
+    widthsRestored = hSplitter->restoreState(state)
+                     && std::any_of(sizes.cbegin(), sizes.cend(),
+                                    [](qint32 size) { return size > 0; });
     // These are no matter of the layout, though QSplitter saves them too.
     hSplitter->setChildrenCollapsible(collapsible);
     if (hSplitter->opaqueResize() != opaqueResize)
@@ -351,7 +395,8 @@ void DockContainer::setupMainWindow(QMainWindow *window)
     d->mainWindow = window;
     if (!d->statusBar)
         d->statusBar = new DockStatusBar(nullptr);
-    d->statusBar->setPanel(d->bottom->panel());
+    if (d->bottom)
+        d->statusBar->setPanel(d->bottom->panel());
     window->setStatusBar(d->statusBar);
     d->alignBottomBar();
 }
@@ -376,9 +421,14 @@ void DockContainer::setPanelCollapsible(bool collapsible)
 void DockContainer::setAllDockViewVisible(bool visible)
 {
     Q_D(DockContainer);
-    for (const DockPanelWidget *side : {d->left, d->bottom, d->right}) {
-        if (QWidget *stack = side->stackedWidget())
+    for (const DockPanelWidget *side : {d->left.data(), d->bottom.data(), d->right.data()}) {
+        if (QWidget *stack = side ? side->stackedWidget() : nullptr)
             stack->setVisible(visible);
+    }
+    if (visible) {
+        d->hSplitter->refresh();
+        d->vSplitter->refresh();
+        d->settle();
     }
 }
 
@@ -402,11 +452,13 @@ void DockContainer::restoreState(const QByteArray &state)
     if (pieces.size() != 2 || pieces.last().size() < SidesSize)
         return;
     d->restoreWidths(state);
-    const QList<int> sizes = d->hSplitter->sizes();
-    if (sizes.value(LeftSide) == 0)
-        d->left->setMinimized(true);
-    if (sizes.value(RightSide) == 0)
-        d->right->setMinimized(true);
+    if (d->isWhole()) {
+        const QList<int> sizes = d->hSplitter->sizes();
+        if (sizes.at(LeftSide) == 0)
+            d->left->setMinimized(true);
+        if (sizes.at(RightSide) == 0)
+            d->right->setMinimized(true);
+    }
     std::array<qint32, 3> sides{};
     qFromLittleEndian<qint32>(pieces.last().constData(), sides.size(), sides.data());
     d->leftWidth = sides[0];
@@ -419,11 +471,8 @@ void DockContainer::showEvent(QShowEvent *event)
 {
     Q_D(DockContainer);
     QFrame::showEvent(event);
-    if (d->arranged)
-        return;
-    d->arranged = true;
-    d->arrangeSides();
-    d->arrangeBottom();
+    if (!std::exchange(d->wasShown, true))
+        d->settle();
 }
 
 void DockContainer::changeEvent(QEvent *event)
@@ -431,9 +480,9 @@ void DockContainer::changeEvent(QEvent *event)
     Q_D(DockContainer);
     QFrame::changeEvent(event);
     if (event->type() == QEvent::LayoutDirectionChange) {
-        for (const DockPanelWidget *side : {d->left, d->right}) {
-            polishAgain(side->panel());
-            polishAgain(side->stackedWidget());
+        for (const DockPanelWidget *side : {d->left.data(), d->right.data()}) {
+            polishAgain(side ? side->panel() : nullptr);
+            polishAgain(side ? side->stackedWidget() : nullptr);
         }
         d->alignBottomBar();
     }
@@ -441,9 +490,11 @@ void DockContainer::changeEvent(QEvent *event)
 
 bool DockContainer::eventFilter(QObject *watched, QEvent *event)
 {
-    Q_D(const DockContainer);
+    Q_D(DockContainer);
     if (event->type() == QEvent::Move)
         d->alignBottomBar();
+    else if (event->type() == QEvent::ShowToParent && watched != this)
+        d->settleSoon();
     return QFrame::eventFilter(watched, event);
 }
 

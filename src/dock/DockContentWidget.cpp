@@ -8,12 +8,15 @@
 #include "DockTabWidget.h"
 
 #include "core/LazyPolish.h"
+#include "core/PolishAgain.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QTabBar>
+#include <QToolButton>
 #include <QVariant>
 
 #include <algorithm>
@@ -202,6 +205,17 @@ void DockContentWidgetPrivate::requestMiddleClose(const QTabWidget *tabs, QPoint
         Q_EMIT q_ptr->signalTabCloseRequested(CloseCurrent, sectionOf(tabs), tab);
 }
 
+/// The sheet has rules for both directions, for the tabs and for the scroll buttons.
+void DockContentWidgetPrivate::polishTabBar(QTabBar *bar)
+{
+    const QList<QToolButton *> scrollButtons = bar->findChildren<QToolButton *>();
+    for (QToolButton *button : scrollButtons)
+        polishAgain(button);
+    polishAgain(bar);
+    QEvent styleChange(QEvent::StyleChange);
+    QCoreApplication::sendEvent(bar, &styleChange);
+}
+
 DockContentWidget::DockContentWidget(QWidget *parent)
     : DockContentWidget(*new DockContentWidgetPrivate, parent)
 {
@@ -311,9 +325,13 @@ int DockContentWidget::addTab(int section, QWidget *widget, const QString &text)
     const QScopedValueRollback moving(d->movingTabs, true);
     dropEarlyPolish(widget);
     const int index = tabs->addTab(widget, text);
-    if (!d->hasTabs()) // a slot removed it
+    if (d->hasTabs())
+        d->enterFilled();
+    if (!d->hasTabs()) { // a slot removed it
+        if (d->lastTab >= 0)
+            d->leaveFilled();
         return -1;
-    d->enterFilled();
+    }
     if (!hadTabs) {
         d->lastSection = section;
         d->lastTab = index;
@@ -490,6 +508,17 @@ QSize DockContentWidget::minimumSizeHint() const
 {
     // The picture may be cut, so that a large one does not blow the window up.
     return layout() ? layout()->totalMinimumSize() : QSize();
+}
+
+void DockContentWidget::changeEvent(QEvent *event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() != QEvent::LayoutDirectionChange)
+        return;
+    Q_D(DockContentWidget);
+    d->polishTabBar(d->sectionWidget->tabBar());
+    for (const QTabWidget *tabs : std::as_const(d->sections))
+        d->polishTabBar(tabs->tabBar());
 }
 
 bool DockContentWidget::eventFilter(QObject *watched, QEvent *event)

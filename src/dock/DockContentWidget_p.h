@@ -35,6 +35,7 @@ public:
     void changeTab(const QTabWidget *tabs, int index);
     void enterFilled();
     void leaveFilled();
+    static void polishTabBar(QTabBar *bar);
     void refreshPlaceholder() const;
     void showCloseMenu(const QTabBar *bar, QPoint pos);
     void requestMiddleClose(const QTabWidget *tabs, QPoint pos) const;

@@ -59,7 +59,7 @@ void DockPanelWidgetPrivate::init()
 
 bool DockPanelWidgetPrivate::accepts(const QWidget *view) const
 {
-    return view && view != stack && !view->isAncestorOf(stack);
+    return view != nullptr && view != stack && !view->isAncestorOf(stack);
 }
 
 QStackedWidget *DockPanelWidgetPrivate::livingStack() const
@@ -125,7 +125,7 @@ void DockPanelWidgetPrivate::minimizeToBar()
         panel->setButtonChecked(panel->checkedId(), false);
 }
 
-void DockPanelWidgetPrivate::collapse(DockView *view, bool collapsed) const
+void DockPanelWidgetPrivate::collapse(DockView *view, bool collapsed)
 {
     auto *page = qobject_cast<QSplitter *>(view->parentWidget());
     if (!collapsed || !page || page->count() < 2)
@@ -189,6 +189,9 @@ int DockPanelWidget::addView(QWidget *view, const QIcon &icon, const QString &te
     page->setHandleWidth(0);
     page->addWidget(dockView);
     page->setCollapsible(0, false);
+    // The first button of a bar is checked at once, which would contradict a minimized side.
+    if (d->minimized)
+        d->panel->setButtonChecked(d->panel->checkedId(), false);
     return d->stack->addWidget(page);
 }
 
@@ -285,9 +288,9 @@ QMenu *DockPanelWidget::menu(QWidget *view) const
     Q_D(const DockPanelWidget);
     const auto found = std::find_if(d->views.cbegin(), d->views.cend(),
                                     [view](const QPointer<DockView> &candidate) {
-                                        return candidate && candidate->widget() == view;
+                                        return candidate != nullptr && candidate->widget() == view;
                                     });
-    return view && found != d->views.cend() ? (*found)->menu() : nullptr;
+    return view != nullptr && found != d->views.cend() ? (*found)->menu() : nullptr;
 }
 
 } // namespace VornFrame

@@ -25,7 +25,7 @@ public:
     virtual ~DockPanelWidgetPrivate();
 
     void init();
-    bool isAlive() const { return panel && livingStack(); }
+    bool isAlive() const { return panel != nullptr && livingStack() != nullptr; }
     /// The stack; null also while it is being deleted, because its views may ask the side until
     /// they are gone.
     QStackedWidget *livingStack() const;
@@ -36,7 +36,7 @@ public:
 
     void showClicked(int index);
     void minimizeToBar();
-    void collapse(DockView *view, bool collapsed) const;
+    static void collapse(DockView *view, bool collapsed);
 
     QPointer<DockPanel> panel;
     QPointer<QStackedWidget> stack; ///< a page is a splitter with the views of one slot

@@ -21,7 +21,8 @@ constexpr QMargins PanelMargins(0, 1, 0, 0);
 
 void DockStatusBarPrivate::fitPanel()
 {
-    panel->resize(panel->sizeHint());
+    if (const QSize hint = panel->sizeHint(); hint.isValid())
+        panel->resize(hint);
     host->setFixedHeight(panel->height());
     alignPanel();
 }

@@ -9,20 +9,39 @@
 #include <QScopedValueRollback>
 #include <QStyle>
 #include <QStyleOptionTab>
+#include <QTimerEvent>
 
+#include <tuple>
 #include <utility>
 
 namespace VornFrame {
 
 namespace {
 
+/// Bars with so many tabs keep their close buttons where QTabBar puts them.
+constexpr int FewTabs = 32;
+/// How many buttons come back at a time when the application is idle.
+constexpr int ButtonsAtATime = 8;
 /// What QTabBar leaves between the text of a tab and a button, in px.
 constexpr int ButtonSpacing = 4;
-/// How far from the visible part of the bar a tab gets its button, in px: the next scroll step
-/// finds it there.
-constexpr int ViewMargin = 200;
 
 } // namespace
+
+bool DockTabBarPrivate::Content::operator==(const Content &other) const
+{
+    const auto fields = [](const Content &content) {
+        return std::tie(content.text, content.icon, content.iconSize, content.leftButton,
+                        content.rightButton, content.shape, content.elideMode, content.isCurrent,
+                        content.isFirst, content.isLast);
+    };
+    return fields(*this) == fields(other);
+}
+
+/// QTabBar takes a tab away and puts one in before it says so, and lays all out in between.
+bool DockTabBarPrivate::isInStep() const
+{
+    return tabs.size() == q_ptr->count();
+}
 
 DockTabBarPrivate::Content DockTabBarPrivate::contentOf(int index) const
 {
@@ -32,6 +51,9 @@ DockTabBarPrivate::Content DockTabBarPrivate::contentOf(int index) const
         content.icon = icon.cacheKey();
         content.iconSize = q_ptr->iconSize();
     }
+    content.leftButton = buttonSize(index, QTabBar::LeftSide);
+    content.rightButton = buttonSize(index, QTabBar::RightSide);
+    content.shape = q_ptr->shape();
     content.elideMode = q_ptr->elideMode();
     content.isCurrent = index == q_ptr->currentIndex();
     content.isFirst = index == 0;
@@ -47,7 +69,8 @@ QSize DockTabBarPrivate::measured(int index, Size Tab::*size, Measure measure)
     Content content = contentOf(index);
     if (!((tabs.at(index).*size).content == content)) {
         QSize hint = measure();
-        if (const QWidget *button = tabs.at(index).parkedButton)
+        const QWidget *button = tabs.at(index).parkedButton;
+        if (button && !q_ptr->tabButton(index, closeSide()))
             hint.rwidth() += button->width() + ButtonSpacing;
         tabs[index].*size = {std::move(content), hint};
     }
@@ -60,10 +83,27 @@ void DockTabBarPrivate::forgetSizes()
         tab.preferred = tab.minimum = {};
 }
 
+/// Until the bar is shown: all tabs as high as the first, and narrow enough to stand side by side,
+/// because the scroll buttons would be polished as soon as they are needed.
+QSize DockTabBarPrivate::roughSize()
+{
+    const auto measureFirst = [this] { return q_ptr->QTabBar::tabSizeHint(0); };
+    const QSize first = tabs.isEmpty() ? measureFirst()
+                                       : measured(0, &Tab::preferred, measureFirst);
+    const int share = q_ptr->width() / qMax(1, q_ptr->count());
+    return {qBound(1, share, qMax(1, first.width())), first.height()};
+}
+
 QTabBar::ButtonPosition DockTabBarPrivate::closeSide() const
 {
     return QTabBar::ButtonPosition(
         q_ptr->style()->styleHint(QStyle::SH_TabBar_CloseButtonPosition, nullptr, q_ptr));
+}
+
+QSize DockTabBarPrivate::buttonSize(int index, QTabBar::ButtonPosition side) const
+{
+    const QWidget *button = q_ptr->tabButton(index, side);
+    return button ? button->size() : QSize();
 }
 
 bool DockTabBarPrivate::isNearView(int index) const
@@ -71,21 +111,69 @@ bool DockTabBarPrivate::isNearView(int index) const
     // Before the first layout a bar is as wide as all its tabs and far wider than its tab widget.
     const QWidget *parent = q_ptr->parentWidget();
     const QRect room = parent ? parent->rect().translated(-q_ptr->pos()) : q_ptr->rect();
-    const QRect view = q_ptr->rect() & room;
-    return view.adjusted(-ViewMargin, 0, ViewMargin, 0).intersects(q_ptr->tabRect(index));
+    return (q_ptr->rect() & room).intersects(q_ptr->tabRect(index));
 }
 
 void DockTabBarPrivate::parkButton(int index)
 {
-    QWidget *button = q_ptr->tabButton(index, closeSide());
-    if (!button)
-        return;
-    tabs[index].parkedButton = button;
-    q_ptr->setTabButton(index, closeSide(), nullptr);
+    if (QWidget *button = q_ptr->tabButton(index, closeSide())) {
+        tabs[index].parkedButton = button;
+        q_ptr->setTabButton(index, closeSide(), nullptr);
+    }
 }
 
-/// For tabs that come and go while others do: a slot of currentChanged() may add and remove some, and
-/// the bar reports the inner changes first. The close buttons are all alike.
+void DockTabBarPrivate::bringButton(int index)
+{
+    QWidget *button = std::exchange(tabs[index].parkedButton, nullptr);
+    const QScopedValueRollback guard(bringing, true);
+    if (q_ptr->tabsClosable() && !q_ptr->tabButton(index, closeSide()))
+        q_ptr->setTabButton(index, closeSide(), button);
+    else
+        button->deleteLater();
+}
+
+void DockTabBarPrivate::bringSeenButtons()
+{
+    if (!isInStep())
+        return;
+    for (int i = 0; i < tabs.size(); ++i) {
+        if (tabs.at(i).parkedButton && isNearView(i))
+            bringButton(i);
+    }
+}
+
+/// Whether any is left.
+bool DockTabBarPrivate::bringNextButtons()
+{
+    int brought = 0;
+    for (int i = 0; isInStep() && i < tabs.size(); ++i) {
+        if (!tabs.at(i).parkedButton)
+            continue;
+        if (brought++ == ButtonsAtATime)
+            return true;
+        bringButton(i);
+    }
+    return !isInStep();
+}
+
+/// The first time that the bar is seen.
+void DockTabBarPrivate::reveal()
+{
+    if (wasShown)
+        return;
+    wasShown = true;
+    layOutAgain();
+}
+
+/// QTabBar offers no other way to have all tabs measured and laid out again.
+void DockTabBarPrivate::layOutAgain()
+{
+    if (q_ptr->count() > 0)
+        q_ptr->setTabText(0, q_ptr->tabText(0));
+}
+
+/// For tabs that come and go while others do: a slot of currentChanged() may add and remove some,
+/// and the bar reports the inner changes first. The close buttons are all alike.
 void DockTabBarPrivate::startAnew()
 {
     QList<QWidget *> parked;
@@ -102,42 +190,13 @@ void DockTabBarPrivate::startAnew()
         button->deleteLater();
 }
 
-/// The first time that the bar is seen.
-void DockTabBarPrivate::reveal()
-{
-    if (wasShown)
-        return;
-    wasShown = true;
-    // There is no other way to have all tabs laid out again.
-    if (q_ptr->count() > 0)
-        q_ptr->setTabText(0, q_ptr->tabText(0));
-}
-
-void DockTabBarPrivate::bringButtons()
-{
-    if (bringing)
-        return;
-    const QScopedValueRollback guard(bringing, true);
-    const QTabBar::ButtonPosition side = closeSide();
-    for (int i = 0; i < tabs.size(); ++i) {
-        QWidget *button = tabs.at(i).parkedButton;
-        if (!button || !isNearView(i))
-            continue;
-        tabs[i].parkedButton = nullptr;
-        if (q_ptr->tabsClosable() && !q_ptr->tabButton(i, side))
-            q_ptr->setTabButton(i, side, button);
-        else
-            button->deleteLater();
-    }
-}
-
 DockTabBar::DockTabBar(QWidget *parent)
     : QTabBar(parent), d_ptr(std::make_unique<DockTabBarPrivate>())
 {
     Q_D(DockTabBar);
     d->q_ptr = this;
     connect(this, &QTabBar::tabMoved, this, [d](int from, int to) {
-        if (d->tabs.size() == d->q_ptr->count())
+        if (d->isInStep())
             d->tabs.move(from, to);
     });
 }
@@ -147,13 +206,10 @@ DockTabBar::~DockTabBar() = default;
 QSize DockTabBar::tabSizeHint(int index) const
 {
     DockTabBarPrivate *d = d_ptr.get();
-    // Until the bar is seen, the first tab stands for all: layouts ask for the height. Without
-    // widths the bar does not get its scroll buttons, which would be polished at once.
-    if (!d->wasShown && index > 0 && !d->tabs.isEmpty())
-        return {0, tabSizeHint(0).height()};
-    // A tab that is just being inserted is not known yet, and while the minimum is measured, the
-    // bar asks for a tab with a shorter text.
-    if (index >= d->tabs.size() || d->measuringMinimum)
+    if (!d->wasShown)
+        return d->roughSize();
+    // While the minimum is measured, the bar asks for a tab with a shorter text.
+    if (!d->isInStep() || d->measuringMinimum)
         return QTabBar::tabSizeHint(index);
     return d->measured(index, &DockTabBarPrivate::Tab::preferred,
                        [this, index] { return QTabBar::tabSizeHint(index); });
@@ -161,11 +217,11 @@ QSize DockTabBar::tabSizeHint(int index) const
 
 QSize DockTabBar::minimumTabSizeHint(int index) const
 {
-    if (elideMode() == Qt::ElideNone)
-        return tabSizeHint(index);
     DockTabBarPrivate *d = d_ptr.get();
+    if (elideMode() == Qt::ElideNone || !d->wasShown)
+        return tabSizeHint(index);
     const QScopedValueRollback guard(d->measuringMinimum, true);
-    if (index >= d->tabs.size())
+    if (!d->isInStep())
         return QTabBar::minimumTabSizeHint(index);
     return d->measured(index, &DockTabBarPrivate::Tab::minimum,
                        [this, index] { return QTabBar::minimumTabSizeHint(index); });
@@ -173,11 +229,18 @@ QSize DockTabBar::minimumTabSizeHint(int index) const
 
 void DockTabBar::initStyleOption(QStyleOptionTab *option, int tabIndex) const
 {
-    // Until the bar is seen, no part of a tab has a place, and eliding its text takes long.
-    if (d_ptr->wasShown)
+    Q_D(const DockTabBar);
+    if (d->wasShown && !d->bringing) {
         QTabBar::initStyleOption(option, tabIndex);
-    else
-        option->initFrom(this);
+        return;
+    }
+    // Only places are asked for, of every button at every turn, and eliding the text takes long.
+    option->initFrom(this);
+    option->rect = tabRect(tabIndex);
+    option->shape = shape();
+    option->documentMode = documentMode();
+    option->leftButtonSize = d->buttonSize(tabIndex, LeftSide);
+    option->rightButtonSize = d->buttonSize(tabIndex, RightSide);
 }
 
 void DockTabBar::tabInserted(int index)
@@ -188,7 +251,7 @@ void DockTabBar::tabInserted(int index)
         d->tabs.insert(index, {});
     else
         d->startAnew();
-    if (!isVisible() || !d->isNearView(index))
+    if (!d->wasShown && count() > FewTabs && index < count())
         d->parkButton(index);
 }
 
@@ -202,14 +265,6 @@ void DockTabBar::tabRemoved(int index)
     }
     if (QWidget *button = d->tabs.takeAt(index).parkedButton)
         button->deleteLater();
-}
-
-void DockTabBar::tabLayoutChange()
-{
-    Q_D(DockTabBar);
-    QTabBar::tabLayoutChange();
-    if (isVisible())
-        d->bringButtons();
 }
 
 bool DockTabBar::event(QEvent *event)
@@ -232,7 +287,9 @@ void DockTabBar::showEvent(QShowEvent *event)
     Q_D(DockTabBar);
     d->reveal();
     QTabBar::showEvent(event);
-    d->bringButtons();
+    d->bringSeenButtons();
+    if (count() > FewTabs)
+        d->bringTimer.start(0, this);
 }
 
 void DockTabBar::paintEvent(QPaintEvent *event)
@@ -240,8 +297,17 @@ void DockTabBar::paintEvent(QPaintEvent *event)
     Q_D(DockTabBar);
     // A bar may be painted without being shown.
     d->reveal();
-    d->bringButtons();
+    d->bringSeenButtons();
     QTabBar::paintEvent(event);
+}
+
+void DockTabBar::timerEvent(QTimerEvent *event)
+{
+    Q_D(DockTabBar);
+    if (event->timerId() != d->bringTimer.timerId())
+        QTabBar::timerEvent(event);
+    else if (!d->bringNextButtons())
+        d->bringTimer.stop();
 }
 
 } // namespace VornFrame

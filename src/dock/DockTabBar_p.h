@@ -5,6 +5,7 @@
 
 #include "DockTabBar.h"
 
+#include <QBasicTimer>
 #include <QList>
 #include <QPointer>
 
@@ -19,17 +20,15 @@ public:
         QString text;
         qint64 icon = 0;
         QSize iconSize;
+        QSize leftButton;
+        QSize rightButton;
+        QTabBar::Shape shape = QTabBar::RoundedNorth;
         Qt::TextElideMode elideMode = Qt::ElideNone;
         bool isCurrent = false;
         bool isFirst = false;
         bool isLast = false;
 
-        bool operator==(const Content &other) const
-        {
-            return text == other.text && icon == other.icon && iconSize == other.iconSize
-                   && elideMode == other.elideMode && isCurrent == other.isCurrent
-                   && isFirst == other.isFirst && isLast == other.isLast;
-        }
+        bool operator==(const Content &other) const;
     };
     struct Size
     {
@@ -43,21 +42,28 @@ public:
         QPointer<QWidget> parkedButton; ///< its close button while that is no tabButton()
     };
 
+    bool isInStep() const;
     Content contentOf(int index) const;
     template <typename Measure>
     QSize measured(int index, Size Tab::*size, Measure measure);
     void forgetSizes();
+    QSize roughSize();
     QTabBar::ButtonPosition closeSide() const;
+    QSize buttonSize(int index, QTabBar::ButtonPosition side) const;
     bool isNearView(int index) const;
     void parkButton(int index);
-    void startAnew();
+    void bringButton(int index);
+    void bringSeenButtons();
+    bool bringNextButtons();
     void reveal();
-    void bringButtons();
+    void layOutAgain();
+    void startAnew();
 
     QList<Tab> tabs; ///< as the tabs of the bar
     bool wasShown = false; ///< until then sizes and places are only roughly right
     bool measuringMinimum = false;
     bool bringing = false;
+    QBasicTimer bringTimer; ///< runs while buttons are parked after the bar was shown
     DockTabBar *q_ptr = nullptr;
 };
 

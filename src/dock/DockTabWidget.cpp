@@ -40,6 +40,8 @@ QSize DockTabWidget::sizeHint() const
 {
     if (!testAttribute(Qt::WA_WState_Polished))
         return {0, 0};
+    if (!isPlain())
+        return QTabWidget::sizeHint();
     return aroundPages(largestHint(this, [](const QWidget *page) { return page->sizeHint(); }),
                        tabBar()->sizeHint().boundedTo({WidestBarHint, QWIDGETSIZE_MAX}));
 }
@@ -48,10 +50,19 @@ QSize DockTabWidget::minimumSizeHint() const
 {
     if (!testAttribute(Qt::WA_WState_Polished))
         return {0, 0};
+    if (!isPlain())
+        return QTabWidget::minimumSizeHint();
     const auto minimumOf = [](const QWidget *page) {
         return page->minimumSizeHint().expandedTo(page->minimumSize());
     };
     return aroundPages(largestHint(this, minimumOf), tabBar()->minimumSizeHint());
+}
+
+/// The bar stands above the pages and fills its row alone.
+bool DockTabWidget::isPlain() const
+{
+    return tabPosition() == North && !cornerWidget(Qt::TopLeftCorner)
+           && !cornerWidget(Qt::TopRightCorner);
 }
 
 /// The bar stands above the \a pages.

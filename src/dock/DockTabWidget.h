@@ -22,6 +22,7 @@ public:
 private:
     Q_DISABLE_COPY_MOVE(DockTabWidget)
 
+    bool isPlain() const;
     QSize aroundPages(QSize pages, QSize bar) const;
 };
 
