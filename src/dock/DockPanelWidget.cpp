@@ -44,9 +44,16 @@ DockPanelWidgetPrivate::DockPanelWidgetPrivate(DockPanelWidget::DockPanelDirecti
 
 DockPanelWidgetPrivate::~DockPanelWidgetPrivate()
 {
-    // They may lie in two windows, or in none.
-    delete panel;
-    delete livingStack();
+    deleteWidgets();
+}
+
+/// They may lie in two windows, or in none.
+void DockPanelWidgetPrivate::deleteWidgets()
+{
+    const std::unique_ptr<QWidget> bar(panel);
+    const std::unique_ptr<QWidget> pageStack(livingStack());
+    panel.clear();
+    stack.clear();
 }
 
 void DockPanelWidgetPrivate::init()
@@ -89,7 +96,7 @@ void DockPanelWidgetPrivate::wireCollapsing(QSplitter *page, DockView *added)
 {
     const auto wire = [this](DockView *view) {
         QObject::connect(view, &DockView::signalCollapsed, q_ptr,
-                         [this, view](bool collapsed) { collapse(view, collapsed); });
+                         [view](bool collapsed) { collapse(view, collapsed); });
     };
     wire(added);
     if (page->orientation() == Qt::Horizontal)
@@ -155,12 +162,10 @@ DockPanelWidget::~DockPanelWidget()
 {
     Q_D(DockPanelWidget);
     // What happens while the pages go is nobody's business any more.
-    QStackedWidget *stack = d->livingStack();
-    if (stack)
+    if (QStackedWidget *stack = d->livingStack())
         stack->disconnect(this);
     // Before the private object goes, because the views may still ask.
-    delete d->panel;
-    delete stack;
+    d->deleteWidgets();
 }
 
 QWidget *DockPanelWidget::panel() const

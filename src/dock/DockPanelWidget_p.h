@@ -25,6 +25,7 @@ public:
     virtual ~DockPanelWidgetPrivate();
 
     void init();
+    void deleteWidgets();
     bool isAlive() const { return panel != nullptr && livingStack() != nullptr; }
     /// The stack; null also while it is being deleted, because its views may ask the side until
     /// they are gone.

@@ -93,7 +93,7 @@ public:
                 [this](bool visible) { m_entries.append(u"visible %1"_s.arg(int(visible))); });
     }
 
-    QStringList entries() const { return m_entries; }
+    const QStringList &entries() const { return m_entries; }
     /// The entries since the last call.
     QStringList take() { return std::exchange(m_entries, {}); }
 

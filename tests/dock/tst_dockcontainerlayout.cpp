@@ -290,7 +290,7 @@ void tst_DockContainerLayout::minimizingGivesTheRoomAway()
     window.dragTo(150, 120, 160);
     QList<int> expected = window.sizes(area);
     const int size = window.sizeOf(area);
-    expected[window.indexOf(area)] = 0;
+    expected[ContainerWindow::indexOf(area)] = 0;
     expected[area == DockContainer::Bottom ? 0 : 1] += size;
     Input::click(window.button(area));
     QVERIFY(window.side(area)->isMinimized());

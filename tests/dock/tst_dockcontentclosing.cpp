@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: VornFrame contributors
 // SPDX-License-Identifier: MIT
+// clazy:excludeall=lambda-in-connect (no slot here outlives the test function that connects it)
 
 #include "dock/ContainerWindow.h"
 
@@ -222,7 +223,8 @@ void tst_DockContentClosing::closeModesMeanTheseTabs()
     QFETCH(const QString, left);
     ContentWindow window({0});
     DockContentWidget *content = window.content();
-    for (const QChar name : u"abcd"_s)
+    const QString titles = u"abcd"_s;
+    for (const QChar name : titles)
         content->addTab(0, new QWidget, name);
     QVERIFY(Input::show(&window));
     // What an application does in answer.

@@ -272,12 +272,12 @@ void tst_DockPanel::clickChecksOneButtonAlone()
             [&] { statesMeanwhile = checkedStates(panel); });
     Input::click(buttonOf(panel, 2));
     QCOMPARE(spy.size(), 1);
-    QCOMPARE(spy.takeFirst(), QVariantList({2}));
+    QCOMPARE(spy.takeFirst(), QVariantList{2});
     QCOMPARE(statesMeanwhile, QList<bool>({false, false, true}));
     QCOMPARE(checkedStates(panel), QList<bool>({false, false, true}));
     QCOMPARE(panel.checkedId(), 2);
     Input::click(buttonOf(panel, 1));
-    QCOMPARE(spy.takeFirst(), QVariantList({1}));
+    QCOMPARE(spy.takeFirst(), QVariantList{1});
     QCOMPARE(checkedStates(panel), QList<bool>({false, true, false}));
 }
 
@@ -290,11 +290,11 @@ void tst_DockPanel::clickOnTheCheckedButtonLeavesNone()
     QSignalSpy spy(&panel, &DockPanel::signalCurrentChanged);
     Input::click(buttonOf(panel, 0));
     QCOMPARE(spy.size(), 1);
-    QCOMPARE(spy.takeFirst(), QVariantList({-1}));
+    QCOMPARE(spy.takeFirst(), QVariantList{-1});
     QCOMPARE(checkedStates(panel), QList<bool>({false, false}));
     QCOMPARE(panel.checkedId(), -1);
     Input::click(buttonOf(panel, 0));
-    QCOMPARE(spy.takeFirst(), QVariantList({0}));
+    QCOMPARE(spy.takeFirst(), QVariantList{0});
 }
 
 void tst_DockPanel::onlyAPersonIsReported()
@@ -321,7 +321,7 @@ void tst_DockPanel::everyOneOfTwelveButtonsAnswers()
         QCOMPARE(buttonOf(panel, i)->y(), 6 + i * (30 + 6));
         QCOMPARE(buttonOf(panel, i)->size(), QSize(30, 30));
         Input::click(buttonOf(panel, i));
-        QCOMPARE(spy.takeFirst(), QVariantList({i}));
+        QCOMPARE(spy.takeFirst(), QVariantList{i});
         QCOMPARE(checkedStates(panel).count(true), 1);
     }
 }

@@ -214,13 +214,13 @@ void tst_DockPanelWidget::stackReportsItsCurrentPage()
     QSignalSpy spy(&side, &DockPanelWidget::signalCurrentIndexChanged);
     addViews(side, 3);
     QCOMPARE(spy.size(), 1); // the first page is current at once
-    QCOMPARE(spy.takeFirst(), QVariantList({0}));
+    QCOMPARE(spy.takeFirst(), QVariantList{0});
     stackOf(side)->setCurrentIndex(2);
     QCOMPARE(spy.size(), 1);
-    QCOMPARE(spy.takeFirst(), QVariantList({2}));
+    QCOMPARE(spy.takeFirst(), QVariantList{2});
     side.setCurrentIndex(1);
     QCOMPARE(spy.size(), 1);
-    QCOMPARE(spy.takeFirst(), QVariantList({1}));
+    QCOMPARE(spy.takeFirst(), QVariantList{1});
     side.setCurrentIndex(1);
     QCOMPARE(spy.size(), 0);
 }

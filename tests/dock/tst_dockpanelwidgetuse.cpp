@@ -134,7 +134,7 @@ void tst_DockPanelWidgetUse::clickShowsTheSlot()
     const QSignalSpy clicked(barOf(side), &DockPanel::signalCurrentChanged);
     Input::click(buttonOf(side, 2));
     QCOMPARE(clicked.size(), 1);
-    QCOMPARE(clicked.at(0), QVariantList({2}));
+    QCOMPARE(clicked.at(0), QVariantList{2});
     QCOMPARE(log.takeAll(), QStringList({u"index 2 (flag clear, checked 2)"_s}));
     QCOMPARE(side.currentIndex(), 2);
     QVERIFY(side.isViewVisible(2));
@@ -153,7 +153,7 @@ void tst_DockPanelWidgetUse::clickOnTheCheckedButtonMinimizes()
     const QSize before = side.stackedWidget()->size();
     Input::click(buttonOf(side, 0));
     QCOMPARE(clicked.size(), 1);
-    QCOMPARE(clicked.at(0), QVariantList({-1}));
+    QCOMPARE(clicked.at(0), QVariantList{-1});
     QCOMPARE(log.takeAll(), QStringList({u"minimized (flag set, checked none)"_s}));
     QVERIFY(side.isMinimized());
     QCOMPARE(checkedButtons(side), QList<int>());

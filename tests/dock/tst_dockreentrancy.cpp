@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: VornFrame contributors
 // SPDX-License-Identifier: MIT
+// clazy:excludeall=lambda-in-connect (no slot here outlives the test function that connects it)
 
 #include "dock/ContainerWindow.h"
 
@@ -98,7 +99,7 @@ void tst_DockReentrancy::allTabsRemovedInsideCloseRequest()
     Input::rightClick(window.bar(), window.onTab(2));
     QVERIFY(driver.hasRun());
     QCOMPARE(window.content()->tabCount(0), 0);
-    QCOMPARE(log.entries().last(), u"tab -1 -1"_s);
+    QCOMPARE(log.entries().constLast(), u"tab -1 -1"_s);
     QCOMPARE(log.entries().count(u"tab -1 -1"_s), 1);
 }
 
@@ -118,7 +119,7 @@ void tst_DockReentrancy::tabRemovedInsideCurrentTabChanged()
     TabLog log(content);
     content->setCurrentTab(0, 0);
     content->setCurrentTab(0, 2);
-    QCOMPARE(log.entries().last(), u"tab 0 2"_s);
+    QCOMPARE(log.entries().constLast(), u"tab 0 2"_s);
     QVERIFY(content->currentWidget(0)->isVisible());
 }
 
@@ -177,7 +178,7 @@ void tst_DockReentrancy::sectionSwitchedInsideSectionChanged()
             });
     content->setCurrentTab(1, 0);
     QCOMPARE(content->currentSection(), 2);
-    QCOMPARE(log.entries().last(), u"tab 2 0"_s);
+    QCOMPARE(log.entries().constLast(), u"tab 2 0"_s);
     QVERIFY(!log.entries().contains(u"tab 1 0"_s));
     log.take();
     content->setCurrentTab(0, 0);

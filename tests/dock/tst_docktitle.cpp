@@ -310,11 +310,11 @@ void tst_DockTitle::togglingTheArrowTwiceReportsBoth()
     Input::click(button);
     QVERIFY(button->isChecked());
     QCOMPARE(collapsed.size(), 1);
-    QCOMPARE(collapsed.at(0), QVariantList({true}));
+    QCOMPARE(collapsed.at(0), QVariantList{true});
     Input::click(button);
     QVERIFY(!button->isChecked());
     QCOMPARE(collapsed.size(), 2);
-    QCOMPARE(collapsed.at(1), QVariantList({false}));
+    QCOMPARE(collapsed.at(1), QVariantList{false});
     // Only a person collapses a view.
     button->setChecked(true);
     QCOMPARE(collapsed.size(), 2);
@@ -340,7 +340,7 @@ void tst_DockTitle::theMenuTakesMoreEntries()
     const QAction *added = window.title().menu()->addAction(u"Close"_s);
     const QSignalSpy triggered(added, &QAction::triggered);
     QVERIFY(Input::show(&window));
-    PopupDriver driver([added](QMenu *open) {
+    PopupDriver driver([](QMenu *open) {
         QCOMPARE(open->actions().size(), 2);
         Input::click(open, open->actionGeometry(open->actions().at(1)).center());
     });

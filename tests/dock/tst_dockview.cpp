@@ -346,8 +346,8 @@ void tst_DockView::reportsWhatTheTitleReports()
     Q_EMIT titleOf(view)->signalCollapsed(false);
     QCOMPARE(minimized.size(), 1);
     QCOMPARE(collapsed.size(), 2);
-    QCOMPARE(collapsed.at(0), QVariantList({true}));
-    QCOMPARE(collapsed.at(1), QVariantList({false}));
+    QCOMPARE(collapsed.at(0), QVariantList{true});
+    QCOMPARE(collapsed.at(1), QVariantList{false});
 }
 
 void tst_DockView::collapsingHidesNothing()
