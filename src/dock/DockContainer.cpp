@@ -156,8 +156,10 @@ void DockContainerPrivate::initConnections()
 /// The container owns them, but a program may delete what it is given.
 bool DockContainerPrivate::isWhole() const
 {
-    return left && left->stackedWidget() && right && right->stackedWidget() && bottom
-           && bottom->stackedWidget() && content;
+    const auto isWholeSide = [](const DockPanelWidget *side) {
+        return side != nullptr && side->stackedWidget() != nullptr;
+    };
+    return isWholeSide(left) && isWholeSide(right) && isWholeSide(bottom) && content != nullptr;
 }
 
 void DockContainerPrivate::followHorizontalMove()
@@ -411,7 +413,8 @@ void DockContainer::setPanelCollapsible(bool collapsible)
 {
     Q_D(DockContainer);
     for (int i = 0; i < d->hSplitter->count(); ++i) {
-        if (i != Column)
+        // Not by its index, which changes when a side is deleted.
+        if (!d->hSplitter->widget(i)->isAncestorOf(d->vSplitter))
             d->hSplitter->setCollapsible(i, collapsible);
     }
     for (int i = 0; i < d->vSplitter->count(); ++i)

@@ -11,6 +11,7 @@
 #include <QStyleOptionTab>
 #include <QTimerEvent>
 
+#include <algorithm>
 #include <tuple>
 #include <utility>
 
@@ -25,14 +26,21 @@ constexpr int ButtonsAtATime = 8;
 /// What QTabBar leaves between the text of a tab and a button, in px.
 constexpr int ButtonSpacing = 4;
 
+/// Whether the tabs stand one below the other.
+bool isUpright(QTabBar::Shape shape)
+{
+    return shape == QTabBar::RoundedWest || shape == QTabBar::RoundedEast
+           || shape == QTabBar::TriangularWest || shape == QTabBar::TriangularEast;
+}
+
 } // namespace
 
 bool DockTabBarPrivate::Content::operator==(const Content &other) const
 {
     const auto fields = [](const Content &content) {
         return std::tie(content.text, content.icon, content.iconSize, content.leftButton,
-                        content.rightButton, content.shape, content.elideMode, content.isCurrent,
-                        content.isFirst, content.isLast);
+                        content.rightButton, content.parkedButton, content.shape, content.elideMode,
+                        content.isCurrent, content.isFirst, content.isLast);
     };
     return fields(*this) == fields(other);
 }
@@ -53,6 +61,9 @@ DockTabBarPrivate::Content DockTabBarPrivate::contentOf(int index) const
     }
     content.leftButton = buttonSize(index, QTabBar::LeftSide);
     content.rightButton = buttonSize(index, QTabBar::RightSide);
+    if (const QWidget *button = tabs.at(index).parkedButton;
+        button && q_ptr->tabsClosable() && !q_ptr->tabButton(index, closeSide()))
+        content.parkedButton = button->size();
     content.shape = q_ptr->shape();
     content.elideMode = q_ptr->elideMode();
     content.isCurrent = index == q_ptr->currentIndex();
@@ -69,9 +80,12 @@ QSize DockTabBarPrivate::measured(int index, Size Tab::*size, Measure measure)
     Content content = contentOf(index);
     if (!((tabs.at(index).*size).content == content)) {
         QSize hint = measure();
-        const QWidget *button = tabs.at(index).parkedButton;
-        if (button && !q_ptr->tabButton(index, closeSide()))
-            hint.rwidth() += button->width() + ButtonSpacing;
+        if (content.parkedButton.isValid()) {
+            if (isUpright(content.shape))
+                hint.rheight() += content.parkedButton.height() + ButtonSpacing;
+            else
+                hint.rwidth() += content.parkedButton.width() + ButtonSpacing;
+        }
         tabs[index].*size = {std::move(content), hint};
     }
     return (tabs.at(index).*size).hint;
@@ -125,35 +139,41 @@ void DockTabBarPrivate::parkButton(int index)
 void DockTabBarPrivate::bringButton(int index)
 {
     QWidget *button = std::exchange(tabs[index].parkedButton, nullptr);
-    const QScopedValueRollback guard(bringing, true);
-    if (q_ptr->tabsClosable() && !q_ptr->tabButton(index, closeSide()))
-        q_ptr->setTabButton(index, closeSide(), button);
-    else
+    if (!q_ptr->tabsClosable() || q_ptr->tabButton(index, closeSide())) {
         button->deleteLater();
+        return;
+    }
+    const QScopedValueRollback guard(bringing, true);
+    q_ptr->setTabButton(index, closeSide(), button);
 }
 
 void DockTabBarPrivate::bringSeenButtons()
 {
     if (!isInStep())
         return;
+    // All first, because the row moves when a button comes.
+    QList<int> seen;
     for (int i = 0; i < tabs.size(); ++i) {
         if (tabs.at(i).parkedButton && isNearView(i))
-            bringButton(i);
+            seen.append(i);
     }
+    for (const int index : std::as_const(seen))
+        bringButton(index);
 }
 
-/// Whether any is left.
+/// Whether any is left. QTabBar scrolls to the current tab whenever a button comes, so they all come
+/// before a user can have scrolled far.
 bool DockTabBarPrivate::bringNextButtons()
 {
+    if (!isInStep())
+        return true;
     int brought = 0;
-    for (int i = 0; isInStep() && i < tabs.size(); ++i) {
-        if (!tabs.at(i).parkedButton)
-            continue;
-        if (brought++ == ButtonsAtATime)
-            return true;
-        bringButton(i);
+    for (int i = 0; i < tabs.size() && brought <= ButtonsAtATime; ++i) {
+        if (tabs.at(i).parkedButton && brought++ < ButtonsAtATime)
+            bringButton(i);
     }
-    return !isInStep();
+    bringSeenButtons();
+    return brought > ButtonsAtATime;
 }
 
 /// The first time that the bar is seen.
@@ -163,6 +183,15 @@ void DockTabBarPrivate::reveal()
         return;
     wasShown = true;
     layOutAgain();
+}
+
+/// Tabs come and go out of step, and until then parked buttons have no room.
+void DockTabBarPrivate::makeRoomForParked()
+{
+    const bool anyParked = std::any_of(tabs.cbegin(), tabs.cend(),
+                                       [](const Tab &tab) { return tab.parkedButton != nullptr; });
+    if (wasShown && anyParked)
+        layOutAgain();
 }
 
 /// QTabBar offers no other way to have all tabs measured and laid out again.
@@ -253,6 +282,7 @@ void DockTabBar::tabInserted(int index)
         d->startAnew();
     if (!d->wasShown && count() > FewTabs && index < count())
         d->parkButton(index);
+    d->makeRoomForParked();
 }
 
 void DockTabBar::tabRemoved(int index)
@@ -265,6 +295,7 @@ void DockTabBar::tabRemoved(int index)
     }
     if (QWidget *button = d->tabs.takeAt(index).parkedButton)
         button->deleteLater();
+    d->makeRoomForParked();
 }
 
 bool DockTabBar::event(QEvent *event)
@@ -296,8 +327,10 @@ void DockTabBar::paintEvent(QPaintEvent *event)
 {
     Q_D(DockTabBar);
     // A bar may be painted without being shown.
-    d->reveal();
-    d->bringSeenButtons();
+    if (!d->wasShown) {
+        d->reveal();
+        d->bringSeenButtons();
+    }
     QTabBar::paintEvent(event);
 }
 

@@ -22,6 +22,7 @@ public:
         QSize iconSize;
         QSize leftButton;
         QSize rightButton;
+        QSize parkedButton; ///< what needs room though it is no button of the tab yet
         QTabBar::Shape shape = QTabBar::RoundedNorth;
         Qt::TextElideMode elideMode = Qt::ElideNone;
         bool isCurrent = false;
@@ -56,6 +57,7 @@ public:
     void bringSeenButtons();
     bool bringNextButtons();
     void reveal();
+    void makeRoomForParked();
     void layOutAgain();
     void startAnew();
 

@@ -61,8 +61,8 @@ QSize DockTabWidget::minimumSizeHint() const
 /// The bar stands above the pages and fills its row alone.
 bool DockTabWidget::isPlain() const
 {
-    return tabPosition() == North && !cornerWidget(Qt::TopLeftCorner)
-           && !cornerWidget(Qt::TopRightCorner);
+    return tabPosition() == North && cornerWidget(Qt::TopLeftCorner) == nullptr
+           && cornerWidget(Qt::TopRightCorner) == nullptr;
 }
 
 /// The bar stands above the \a pages.

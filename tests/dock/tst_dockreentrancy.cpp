@@ -52,6 +52,8 @@ private Q_SLOTS:
     void sectionAddedInsideSectionChanged();
     void tabAddedWhenTheLastOneGoes();
     void tabRemovedWhenTheFirstOneComes();
+    void tabRemovedWhenItShowsTheContent();
+    void tabDeletedWhenItBecomesTheCurrentOne();
     void minimizedInsideMinimized();
 };
 
@@ -257,6 +259,47 @@ void tst_DockReentrancy::tabRemovedWhenTheFirstOneComes()
     QCOMPARE(window.content()->tabCount(0), 0);
     QVERIFY(window.content()->isHidden());
     QVERIFY(!window.content()->isSectionVisible(0));
+}
+
+void tst_DockReentrancy::tabRemovedWhenItShowsTheContent()
+{
+    ContainerWindow window;
+    window.content()->addSection(u"Section"_s);
+    QVERIFY(Input::show(&window));
+    DockContentWidget *content = window.content();
+    TabLog log(content);
+    const auto once = connect(content, &DockContentWidget::signalVisibleChanged, content,
+                              [content](bool visible) {
+                                  if (visible)
+                                      content->removeTab(0, 0);
+                              });
+    const std::unique_ptr<QWidget> page = std::make_unique<QWidget>();
+    QCOMPARE(content->addTab(0, page.get(), u"short"_s), -1);
+    QCOMPARE(content->tabCount(0), 0);
+    QCOMPARE(log.take().last(2), QStringList({u"section -1"_s, u"tab -1 -1"_s}));
+    disconnect(once);
+    QCOMPARE(content->addTab(0, new QWidget, u"long"_s), 0);
+    QCOMPARE(log.take(), QStringList({u"tab 0 0"_s, u"visible 1"_s, u"section 0"_s}));
+    QVERIFY(content->isVisible());
+}
+
+void tst_DockReentrancy::tabDeletedWhenItBecomesTheCurrentOne()
+{
+    ContentWindow window({0});
+    QVERIFY(Input::show(&window));
+    DockContentWidget *content = window.content();
+    TabLog log(content);
+    const auto once = connect(content, &DockContentWidget::signalCurrentTabChanged, content,
+                              [content](int section, int index) { //
+                                  delete content->widget(section, index);
+                              });
+    QCOMPARE(content->addTab(0, new QWidget, u"short"_s), -1);
+    QCOMPARE(content->tabCount(0), 0);
+    QVERIFY(!content->isSectionBarVisible());
+    QCOMPARE(log.take().last(2), QStringList({u"section -1"_s, u"tab -1 -1"_s}));
+    disconnect(once);
+    QCOMPARE(content->addTab(0, new QWidget, u"long"_s), 0);
+    QCOMPARE(log.take(), QStringList({u"tab 0 0"_s, u"section 0"_s}));
 }
 
 void tst_DockReentrancy::minimizedInsideMinimized()

@@ -139,6 +139,7 @@ private Q_SLOTS:
     void takesTheBarIn();
     void givesTheBarItsMargins();
     void givesTheHostTheHeightOfTheBar();
+    void barWithoutALayoutKeepsItsSize();
     void takesNoBarWithoutOne();
     void putsTheBarBelowThePlace_data();
     void putsTheBarBelowThePlace();
@@ -212,6 +213,25 @@ void tst_DockStatusBar::givesTheHostTheHeightOfTheBar()
     QCOMPARE(status.host()->minimumHeight(), 31);
     QCOMPARE(status.host()->maximumHeight(), 31);
     QCOMPARE(status.bar->y(), 0);
+}
+
+void tst_DockStatusBar::barWithoutALayoutKeepsItsSize()
+{
+    DockStatusBar status(nullptr);
+    status.resize(600, 40);
+    auto *bar = new QWidget;
+    bar->resize(120, 31);
+    status.setPanel(bar);
+    bar->show();
+    QCOMPARE(bar->size(), QSize(120, 31));
+    QCOMPARE(bar->parentWidget()->minimumHeight(), 31);
+    QCOMPARE(bar->parentWidget()->maximumHeight(), 31);
+    QVERIFY(Input::show(&status));
+    status.resize(500, 40);
+    QCOMPARE(bar->size(), QSize(120, 31));
+    bar->resize(90, 20);
+    QCOMPARE(bar->size(), QSize(90, 20));
+    QCOMPARE(bar->parentWidget()->maximumHeight(), 20);
 }
 
 void tst_DockStatusBar::takesNoBarWithoutOne()

@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: VornFrame contributors
 // SPDX-License-Identifier: MIT
 
+#include "support/TestCase.h"
+
 #include "MessageRelay.h"
 
 #include <QSignalSpy>
-#include <QTest>
 #include <QThread>
 
 #include <memory>
