@@ -375,20 +375,20 @@ void tst_DockTabBar::rowIsThatOfAPlainTabWidget()
 void tst_DockTabBar::draggedTabLeavesAPlainRow()
 {
     QFETCH(const int, count);
-    Pair pair(count);
-    pair.inBoth([](TabWindow &window) {
-        window.bar()->setTabButton(1, QTabBar::LeftSide, newButton());
-        window.tabs()->setTabIcon(2, newIcon());
-    });
-    QVERIFY(pair.show());
     for (const auto &[from, to] : {std::pair(1, 3), std::pair(3, 0), std::pair(0, 2)}) {
+        // A new row each time: a dropped tab glides into its place, and cannot be taken meanwhile.
+        Pair pair(count);
+        pair.inBoth([](TabWindow &window) {
+            window.bar()->setTabButton(1, QTabBar::LeftSide, newButton());
+            window.tabs()->setTabIcon(2, newIcon());
+        });
+        QVERIFY(pair.show());
         const QString dragged = pair.dock.tabs()->tabText(from);
         pair.inBoth([from = from, to = to](TabWindow &window) {
             const QPoint start = window.bar()->tabRect(from).center();
             const QPoint end = window.bar()->tabRect(to).center();
             Input::drag(window.bar(), start, end);
         });
-        // A dropped tab glides into its place.
         QTRY_COMPARE(pair.difference(), QString());
         QVERIFY(pair.dock.tabs()->tabText(from) != dragged);
     }
