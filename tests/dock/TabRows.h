@@ -25,7 +25,7 @@ using namespace Qt::StringLiterals;
 /// Short and long ones in turn.
 inline QString textOf(int index)
 {
-    return u"Tab "_s + QString(index % 7 * 2, u'x') + QString::number(index);
+    return u"Tab "_s + QString(qsizetype(index % 7) * 2, u'x') + QString::number(index);
 }
 
 /// A tab widget as a section has one, in a window.
@@ -71,7 +71,7 @@ public:
     {
         QList<int> bare;
         for (int i = 0; i < m_tabs->count(); ++i) {
-            if (!closeButton(i) && (!seen || bar()->rect().intersects(bar()->tabRect(i))))
+            if (closeButton(i) == nullptr && (!seen || bar()->rect().intersects(bar()->tabRect(i))))
                 bare.append(i);
         }
         return bare;
