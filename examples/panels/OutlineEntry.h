@@ -10,5 +10,5 @@ struct OutlineEntry
 {
     QString text;
     int level = 1; ///< 1 is the highest; the level below belongs to it
-    int line = -1; ///< where it leads, with base 0; -1 for nowhere
+    int line = -1; ///< where it leads, with base 0; -1 if it leads to none
 };
