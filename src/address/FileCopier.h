@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: VornFrame contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "FileRecord.h"
+#include "NativeFiles.h"
+
+#include <functional>
+#include <vector>
+
+namespace VornFrame {
+
+class FileProgress;
+
+/// Copies files and folders. A file that exists already is never written into: the copy is made
+/// beside it under another name, and takes its place when it is complete. Links are copied as what
+/// they are; special files are left out.
+class FileCopier
+{
+public:
+    using Path = NativeFiles::Path;
+
+    /// Told about a folder or file that cannot be copied; \a code is one of FileCheck.
+    using Report = std::function<void(const Path &source, const Path &target, int code)>;
+
+    /// All that is copied is noted in \a record, which hasArrived() needs; null notes nothing. It is
+    /// borrowed, as is \a progress.
+    FileCopier(FileProgress &progress, Report report, FileRecord *record = nullptr);
+
+    /// Copies \a source, which may be a folder with all that is in it, to the name \a target. Files
+    /// that exist there stay, unless \a overwrite: then they go to the trash.
+    void copy(const Path &source, const Path &target, bool overwrite);
+
+    /// Whether all of \a source was copied to \a target, did not change since, and is on the disk.
+    bool hasArrived(const Path &source, const Path &target) const;
+
+private:
+    using Facts = NativeFiles::Facts;
+
+    struct Entry
+    {
+        Path name;
+        Facts facts;
+    };
+
+    void copyChecked(const Path &source, const Facts &facts, const Path &target, bool overwrite);
+    void copyFolder(const Path &source, const Facts &facts, const Path &target, bool overwrite);
+    void copySubFolder(const Path &source, const Path &target, bool overwrite);
+    void copyLeaf(const Path &source, const Facts &facts, const Path &target, bool overwrite);
+    void note(const Path &source, const Facts &facts);
+    bool makeCopy(const Path &source, const Facts &facts, const Path &copy, Facts *copied);
+    bool putInPlace(const Path &copy, const Path &target, bool overwrite);
+    bool isComplete(const Path &source, const Path &target, std::vector<Path> *folders) const;
+    bool isLeafComplete(const Path &source, const Facts &facts, const Path &target) const;
+
+    FileProgress &m_progress;
+    const Report m_report;
+    FileRecord *const m_record;
+    std::optional<NativeFiles::Identity> m_target; ///< the folder at the top of the copy
+};
+
+} // namespace VornFrame

@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: VornFrame contributors
+// SPDX-License-Identifier: MIT
+
+#include "FileTask.h"
+
+#include <QFileInfo>
+#include <QFontMetrics>
+#include <QLabel>
+#include <QLocale>
+
+#include <chrono>
+#include <thread>
+
+namespace VornFrame {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr qint64 DialogDelay = 1000; // ms
+constexpr auto RefreshInterval = 40ms;
+constexpr int LabelWidth = 360; // px
+constexpr int ProgressSteps = 1000;
+
+} // namespace
+
+FileTask::FileTask(QWidget *window) : m_window(window ? window->window() : nullptr) {}
+
+void FileTask::run(const std::function<void()> &work)
+{
+    m_clock.start();
+    std::thread thread([this, &work] {
+        work();
+        const std::scoped_lock lock(m_mutex);
+        m_isDone = true;
+        m_changed.notify_all();
+    });
+    {
+        Lock lock(m_mutex);
+        while (!m_isDone) {
+            if (m_question)
+                answer(lock);
+            else
+                wait(lock);
+        }
+    }
+    thread.join();
+    m_dialog.reset();
+}
+
+void FileTask::ask(const std::function<void()> &question)
+{
+    Lock lock(m_mutex);
+    m_question = &question;
+    m_changed.notify_all();
+    m_changed.wait(lock, [this] { return !m_question; });
+}
+
+void FileTask::wait(Lock &lock)
+{
+    const auto isAwaited = [this] { return m_isDone || m_question; };
+    const qint64 left = DialogDelay - m_clock.elapsed();
+    if (!m_dialog && left > 0) {
+        m_changed.wait_for(lock, std::chrono::milliseconds(left), isAwaited);
+        return;
+    }
+    lock.unlock();
+    showProgress();
+    lock.lock();
+    m_changed.wait_for(lock, RefreshInterval, isAwaited);
+}
+
+/// The time that the user thinks is no work.
+void FileTask::answer(Lock &lock)
+{
+    lock.unlock();
+    (*m_question)();
+    m_clock.start();
+    lock.lock();
+    m_question = nullptr;
+    m_changed.notify_all();
+}
+
+void FileTask::showProgress()
+{
+    if (!m_dialog)
+        makeDialog();
+    const QString name = QFileInfo(NativeFiles::toText(m_progress.current())).fileName();
+    const QFontMetrics metrics(m_dialog->font());
+    const QLocale locale;
+    const qint64 total = m_progress.total();
+    const qint64 done = qMin(m_progress.done(), total);
+    const QString bytes =
+        total == 0
+            ? QString()
+            : tr("%1 of %2").arg(locale.formattedDataSize(done), locale.formattedDataSize(total));
+    m_dialog->setLabelText(metrics.elidedText(name, Qt::ElideMiddle, LabelWidth).simplified()
+                           + QLatin1Char('\n') + bytes);
+    m_dialog->setMaximum(total == 0 ? 0 : ProgressSteps);
+    m_dialog->setValue(total == 0 ? 0 : int(double(done) / double(total) * ProgressSteps));
+    QCoreApplication::processEvents();
+    if (m_dialog->wasCanceled())
+        m_progress.cancel();
+}
+
+void FileTask::makeDialog()
+{
+    m_dialog = std::make_unique<QProgressDialog>(m_window);
+    m_dialog->setWindowTitle(tr("Files"));
+    m_dialog->setCancelButtonText(tr("Cancel"));
+    m_dialog->setWindowModality(Qt::ApplicationModal);
+    m_dialog->setAutoClose(false);
+    m_dialog->setAutoReset(false);
+    // A name of a file is no markup.
+    auto *label = new QLabel(m_dialog.get());
+    label->setTextFormat(Qt::PlainText);
+    label->setAlignment(Qt::AlignLeading | Qt::AlignVCenter);
+    label->setMinimumWidth(LabelWidth);
+    m_dialog->setLabel(label);
+    m_dialog->show();
+}
+
+} // namespace VornFrame
