@@ -11,10 +11,7 @@ namespace {
 
 bool isSame(const Path &source, const Path &target)
 {
-    if (resolved(source) == resolved(target))
-        return true;
-    const std::optional<Identity> identity = identityOf(source);
-    return identity && identity == identityOf(target);
+    return resolved(source) == resolved(target) || areSame(source, target);
 }
 
 /// Asks for the identity of every folder above, which sees through links and through folders that

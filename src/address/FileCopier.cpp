@@ -137,7 +137,7 @@ void FileCopier::copyLeaf(const Path &source, const Facts &facts, const Path &ta
     const Facts existing = factsOf(target);
     if (existing.exists()) {
         const bool isFile = existing.kind == Kind::File || existing.kind == Kind::Link;
-        if (!overwrite || !isFile || identityOf(source) == identityOf(target))
+        if (!overwrite || !isFile || areSame(source, target))
             return;
     }
     const Path copy = temporaryName(target);

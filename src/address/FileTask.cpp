@@ -26,6 +26,12 @@ constexpr int ProgressSteps = 1000;
 
 FileTask::FileTask(QWidget *window) : m_window(window ? window->window() : nullptr) {}
 
+FileTask::~FileTask()
+{
+    // It goes before its window, unless that has died.
+    delete m_dialog;
+}
+
 void FileTask::run(const std::function<void()> &work)
 {
     m_clock.start();
@@ -45,7 +51,6 @@ void FileTask::run(const std::function<void()> &work)
         }
     }
     thread.join();
-    m_dialog.reset();
 }
 
 void FileTask::ask(const std::function<void()> &question)
@@ -99,20 +104,20 @@ void FileTask::showProgress()
     m_dialog->setMaximum(total == 0 ? 0 : ProgressSteps);
     m_dialog->setValue(total == 0 ? 0 : int(double(done) / double(total) * ProgressSteps));
     QCoreApplication::processEvents();
-    if (m_dialog->wasCanceled())
+    if (m_dialog && m_dialog->wasCanceled())
         m_progress.cancel();
 }
 
 void FileTask::makeDialog()
 {
-    m_dialog = std::make_unique<QProgressDialog>(m_window);
+    m_dialog = new QProgressDialog(m_window);
     m_dialog->setWindowTitle(tr("Files"));
     m_dialog->setCancelButtonText(tr("Cancel"));
     m_dialog->setWindowModality(Qt::ApplicationModal);
     m_dialog->setAutoClose(false);
     m_dialog->setAutoReset(false);
     // A name of a file is no markup.
-    auto *label = new QLabel(m_dialog.get());
+    auto *label = new QLabel(m_dialog);
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     label->setMinimumWidth(LabelWidth);

@@ -12,7 +12,6 @@
 
 #include <condition_variable>
 #include <functional>
-#include <memory>
 #include <mutex>
 
 namespace VornFrame {
@@ -27,6 +26,7 @@ class FileTask
 public:
     /// The progress is shown over \a window, which may be null and may die meanwhile.
     explicit FileTask(QWidget *window);
+    ~FileTask();
 
     /// Returns when \a work is done.
     void run(const std::function<void()> &work);
@@ -48,7 +48,7 @@ private:
 
     const QPointer<QWidget> m_window;
     FileProgress m_progress;
-    std::unique_ptr<QProgressDialog> m_dialog; ///< null until the work has taken long
+    QPointer<QProgressDialog> m_dialog; ///< null until the work has taken long
     QElapsedTimer m_clock;
     std::mutex m_mutex;
     std::condition_variable m_changed;

@@ -58,9 +58,15 @@ struct Facts
 
 Facts factsOf(const Path &path);
 
-/// What a path leads to in the end, links followed; nothing where that does not exist. Two names of
-/// one file have the same identity.
+/// What a path leads to in the end, links followed; nothing where that does not exist.
 std::optional<Identity> identityOf(const Path &path);
+
+/// Whether two names lead to one file. Links that lead nowhere do not.
+inline bool areSame(const Path &path, const Path &other)
+{
+    const std::optional<Identity> identity = identityOf(path);
+    return identity && identity == identityOf(other);
+}
 
 /// \a path with all links before its last component resolved.
 Path resolved(const Path &path);
