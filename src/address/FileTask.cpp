@@ -7,6 +7,7 @@
 #include <QFontMetrics>
 #include <QLabel>
 #include <QLocale>
+#include <QProgressBar>
 
 #include <chrono>
 #include <thread>
@@ -101,8 +102,8 @@ void FileTask::showProgress()
             : tr("%1 of %2").arg(locale.formattedDataSize(done), locale.formattedDataSize(total));
     m_dialog->setLabelText(metrics.elidedText(name, Qt::ElideMiddle, LabelWidth).simplified()
                            + QLatin1Char('\n') + bytes);
-    m_dialog->setMaximum(total == 0 ? 0 : ProgressSteps);
-    m_dialog->setValue(total == 0 ? 0 : int(double(done) / double(total) * ProgressSteps));
+    m_bar->setMaximum(total == 0 ? 0 : ProgressSteps);
+    m_bar->setValue(total == 0 ? 0 : int(double(done) / double(total) * ProgressSteps));
     QCoreApplication::processEvents();
     if (m_dialog && m_dialog->wasCanceled())
         m_progress.cancel();
@@ -122,6 +123,10 @@ void FileTask::makeDialog()
     label->setAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     label->setMinimumWidth(LabelWidth);
     m_dialog->setLabel(label);
+    // Set by itself: QProgressDialog::setValue() handles events, in which the dialog may die.
+    m_bar = new QProgressBar(m_dialog);
+    m_bar->setAccessibleName(tr("Progress"));
+    m_dialog->setBar(m_bar);
     m_dialog->show();
 }
 

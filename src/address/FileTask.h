@@ -14,6 +14,8 @@
 #include <functional>
 #include <mutex>
 
+class QProgressBar;
+
 namespace VornFrame {
 
 /// Does work with files in a thread of its own, so that a slow disk never stops the painting, while
@@ -49,6 +51,7 @@ private:
     const QPointer<QWidget> m_window;
     FileProgress m_progress;
     QPointer<QProgressDialog> m_dialog; ///< null until the work has taken long
+    QProgressBar *m_bar = nullptr; ///< belongs to the dialog
     QElapsedTimer m_clock;
     std::mutex m_mutex;
     std::condition_variable m_changed;

@@ -36,6 +36,9 @@ FileFixture::~FileFixture()
         qputenv(DataHome, m_dataHomeBefore);
     else
         qunsetenv(DataHome);
+    // Qt does not see, and so does not remove, names that are no UTF-8.
+    std::error_code error;
+    std::filesystem::remove_all(native(path()), error);
 }
 
 QString FileFixture::path(const QString &relative) const
@@ -58,6 +61,7 @@ void FileFixture::makeFolder(const QString &relative) const
 
 void FileFixture::makeLink(const QString &relative, const QString &text) const
 {
+    QVERIFY(QDir().mkpath(QFileInfo(path(relative)).path()));
     std::error_code error;
     std::filesystem::create_symlink(native(text), native(path(relative)), error);
     QVERIFY2(!error, error.message().c_str());
