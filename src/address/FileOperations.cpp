@@ -256,9 +256,11 @@ void FileOperations::removeSelection()
 
 QString FileOperations::newFolder()
 {
-    if (operationIsRunning)
+    const QString current = m_selection.currentPath();
+    // Nothing is no folder; Qt would take it for the working directory.
+    if (operationIsRunning || current.isEmpty())
         return {};
-    const QDir base(folderOf(m_selection.currentPath()));
+    const QDir base(folderOf(current));
     const QString name = tr("New Folder");
     QString candidate = name;
     for (int counter = 2; NativeFiles::factsOf(nativePath(base.filePath(candidate))).exists();

@@ -613,6 +613,8 @@ void TestFileOperations::newFolderBesideAFile()
 
 void TestFileOperations::newFolderThatCannotBeMade()
 {
+    m_chosen.current = QString();
+    QCOMPARE(FileOperations(m_chosen).newFolder(), QString());
     m_chosen.current = u"/proc"_s;
     QCOMPARE(FileOperations(m_chosen).newFolder(), QString());
 }
