@@ -196,8 +196,8 @@ void enterFolderOfManyFolders(benchmark::State &state)
         state, leave, [&] { bar.setPath(folder); },
         [&] {
             const QIcon icon = QApplication::style()->standardIcon(QStyle::SP_DirIcon);
-            const QStringList names =
-                QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+            const QStringList names = QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot,
+                                                             QDir::Name);
             for (const QString &name : names)
                 menu->addAction(icon, name);
         });
@@ -245,8 +245,8 @@ void pasteManySmallFiles(benchmark::State &state)
     AddressBar bar;
     QString target;
     sideBySide(
-        state, [&] { target = files.emptyTarget(); }, [&] { paste(bar, source, "copy"_ba, target); },
-        [&] { copyByProgram(source, target); });
+        state, [&] { target = files.emptyTarget(); },
+        [&] { paste(bar, source, "copy"_ba, target); }, [&] { copyByProgram(source, target); });
 }
 BENCHMARK(pasteManySmallFiles)->Apply(timed)->Iterations(9);
 
@@ -257,8 +257,8 @@ void pasteOneBigFile(benchmark::State &state)
     AddressBar bar;
     QString target;
     sideBySide(
-        state, [&] { target = files.emptyTarget(); }, [&] { paste(bar, source, "copy"_ba, target); },
-        [&] { copyByProgram(source, target); });
+        state, [&] { target = files.emptyTarget(); },
+        [&] { paste(bar, source, "copy"_ba, target); }, [&] { copyByProgram(source, target); });
 }
 BENCHMARK(pasteOneBigFile)->Apply(timed)->Iterations(5);
 

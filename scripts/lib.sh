@@ -68,6 +68,7 @@ package_names() {
     build)
         echo g++ cmake ninja-build ccache pkg-config qt6-base-dev libgl-dev "$svg" fonts-dejavu-core
         echo libbenchmark-dev
+        echo strace util-linux mount e2fsprogs # for tests that let the system fail
         ;;
     format) echo clang-format shellcheck ;;
     tidy) echo clang clang-tidy python3 ;;

@@ -9,11 +9,6 @@ using namespace NativeFiles;
 
 namespace {
 
-bool isSame(const Path &source, const Path &target)
-{
-    return resolved(source) == resolved(target) || areSame(source, target);
-}
-
 /// Asks for the identity of every folder above, which sees through links and through folders that
 /// are mounted in two places; names alone would also take "docs-old" for a part of "docs".
 bool isInside(const Path &target, const Facts &source)
@@ -30,6 +25,15 @@ bool isInside(const Path &target, const Facts &source)
 }
 
 } // namespace
+
+bool isSame(const Path &source, const Path &target)
+{
+    const Facts facts = factsOf(source);
+    if (facts.exists() && facts.identity == factsOf(target).identity)
+        return true;
+    const std::optional<Identity> identity = identityOf(source);
+    return identity && identity == identityOf(target);
+}
 
 Code check(const Path &source, const Path &target)
 {

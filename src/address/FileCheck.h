@@ -21,6 +21,9 @@ enum Code {
     Unknown = 8,
 };
 
+/// Whether both are names of one file or folder, after links are followed.
+bool isSame(const NativeFiles::Path &source, const NativeFiles::Path &target);
+
 /// Checked in the order of the numbers. A link counts as a file, whatever it leads to.
 Code check(const NativeFiles::Path &source, const NativeFiles::Path &target);
 

@@ -56,12 +56,14 @@ void FileCopier::copy(const Path &source, const Path &target, bool overwrite)
         break;
     }
     m_target.reset();
+    m_replacements.clear();
     const Facts facts = factsOf(source);
     if (facts.isFolder() && !target.parent_path().empty()) {
         std::error_code error;
         std::filesystem::create_directories(target.parent_path(), error);
     }
-    copyChecked(source, facts, target, overwrite);
+    // A link on the way to the target may be what is replaced.
+    copyChecked(source, facts, resolved(target), overwrite);
 }
 
 void FileCopier::copyChecked(const Path &source, const Facts &facts, const Path &target,
@@ -137,13 +139,17 @@ void FileCopier::copyLeaf(const Path &source, const Facts &facts, const Path &ta
     const Facts existing = factsOf(target);
     if (existing.exists()) {
         const bool isFile = existing.kind == Kind::File || existing.kind == Kind::Link;
-        if (!overwrite || !isFile || areSame(source, target))
+        // Where upper and lower case are the same, two names of the source can be one here.
+        const bool isOwn = m_replacements.count(existing.identity.file) != 0;
+        if (!overwrite || !isFile || isOwn || FileCheck::isSame(source, target))
             return;
     }
     const Path copy = temporaryName(target);
     Facts copied = facts;
     if (makeCopy(source, facts, copy, &copied)) {
         if (putInPlace(copy, target, existing.exists())) {
+            if (overwrite)
+                m_replacements.insert(factsOf(target).identity.file);
             note(source, copied);
             return;
         }

@@ -7,6 +7,8 @@
 #include "NativeFiles.h"
 
 #include <functional>
+#include <optional>
+#include <unordered_set>
 #include <vector>
 
 namespace VornFrame {
@@ -58,6 +60,7 @@ private:
     const Report m_report;
     FileRecord *const m_record;
     std::optional<NativeFiles::Identity> m_target; ///< the folder at the top of the copy
+    std::unordered_set<quint64> m_replacements; ///< files that were copied with overwriting
 };
 
 } // namespace VornFrame

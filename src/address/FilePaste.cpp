@@ -8,6 +8,7 @@
 #include "FileRemoval.h"
 
 #include <algorithm>
+#include <system_error>
 
 namespace VornFrame {
 
@@ -83,13 +84,18 @@ FilePaste::FilePaste(bool isCut, Dialogs dialogs, FileProgress &progress)
 
 void FilePaste::run(const std::vector<Path> &sources, const Path &folder)
 {
+    // A link that leads to the folder may be replaced, or cut, itself.
+    std::error_code error;
+    const Path place = std::filesystem::canonical(folder, error);
+    if (error)
+        return;
     for (const Path &source : sources)
         m_progress.addTotal(sizeOf(source, m_progress));
     for (const Path &source : sources) {
         if (m_progress.isCancelled())
             break;
         settleAround(source);
-        pasteOne(source, folder);
+        pasteOne(source, place);
     }
     settle();
 }

@@ -8,6 +8,8 @@
 #include <QLabel>
 #include <QLocale>
 #include <QProgressBar>
+#include <QPushButton>
+#include <QWindow>
 
 #include <chrono>
 #include <thread>
@@ -26,12 +28,6 @@ constexpr int ProgressSteps = 1000;
 } // namespace
 
 FileTask::FileTask(QWidget *window) : m_window(window ? window->window() : nullptr) {}
-
-FileTask::~FileTask()
-{
-    // It goes before its window, unless that has died.
-    delete m_dialog;
-}
 
 void FileTask::run(const std::function<void()> &work)
 {
@@ -52,6 +48,7 @@ void FileTask::run(const std::function<void()> &work)
         }
     }
     thread.join();
+    m_dialog.reset();
 }
 
 void FileTask::ask(const std::function<void()> &question)
@@ -105,28 +102,46 @@ void FileTask::showProgress()
     m_bar->setMaximum(total == 0 ? 0 : ProgressSteps);
     m_bar->setValue(total == 0 ? 0 : int(double(done) / double(total) * ProgressSteps));
     QCoreApplication::processEvents();
-    if (m_dialog && m_dialog->wasCanceled())
-        m_progress.cancel();
 }
 
 void FileTask::makeDialog()
 {
-    m_dialog = new QProgressDialog(m_window);
+    // No child of the window, which may be deleted while the dialog is in use.
+    m_dialog = std::make_unique<QProgressDialog>();
     m_dialog->setWindowTitle(tr("Files"));
-    m_dialog->setCancelButtonText(tr("Cancel"));
+    auto *button = new QPushButton(tr("Cancel"), m_dialog.get());
+    button->setAutoDefault(false);
+    m_dialog->setCancelButton(button);
+    // It stays, and keeps the rest of the application from the user, until the work has noticed.
+    QObject::disconnect(m_dialog.get(), &QProgressDialog::canceled, m_dialog.get(),
+                        &QProgressDialog::cancel);
+    const auto cancel = [this, button] {
+        m_progress.cancel();
+        button->setEnabled(false);
+    };
+    QObject::connect(m_dialog.get(), &QProgressDialog::canceled, button, cancel);
+    QObject::connect(m_dialog.get(), &QProgressDialog::rejected, button, cancel);
     m_dialog->setWindowModality(Qt::ApplicationModal);
     m_dialog->setAutoClose(false);
     m_dialog->setAutoReset(false);
     // A name of a file is no markup.
-    auto *label = new QLabel(m_dialog);
+    auto *label = new QLabel(m_dialog.get());
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     label->setMinimumWidth(LabelWidth);
     m_dialog->setLabel(label);
-    // Set by itself: QProgressDialog::setValue() handles events, in which the dialog may die.
-    m_bar = new QProgressBar(m_dialog);
+    // Set by itself: QProgressDialog::setValue() would handle events whenever it likes.
+    m_bar = new QProgressBar(m_dialog.get());
     m_bar->setAccessibleName(tr("Progress"));
     m_dialog->setBar(m_bar);
+    if (m_window && m_window->windowHandle()) {
+        m_dialog->winId();
+        m_dialog->windowHandle()->setTransientParent(m_window->windowHandle());
+        m_dialog->adjustSize();
+        QRect place = m_dialog->rect();
+        place.moveCenter(m_window->frameGeometry().center());
+        m_dialog->move(place.topLeft());
+    }
     m_dialog->show();
 }
 

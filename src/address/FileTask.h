@@ -12,6 +12,7 @@
 
 #include <condition_variable>
 #include <functional>
+#include <memory>
 #include <mutex>
 
 class QProgressBar;
@@ -28,7 +29,6 @@ class FileTask
 public:
     /// The progress is shown over \a window, which may be null and may die meanwhile.
     explicit FileTask(QWidget *window);
-    ~FileTask();
 
     /// Returns when \a work is done.
     void run(const std::function<void()> &work);
@@ -50,7 +50,7 @@ private:
 
     const QPointer<QWidget> m_window;
     FileProgress m_progress;
-    QPointer<QProgressDialog> m_dialog; ///< null until the work has taken long
+    std::unique_ptr<QProgressDialog> m_dialog; ///< null until the work has taken long
     QProgressBar *m_bar = nullptr; ///< belongs to the dialog
     QElapsedTimer m_clock;
     std::mutex m_mutex;

@@ -15,8 +15,10 @@
 #include <QDateTime>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <cerrno>
 #include <string>
+#include <vector>
 
 #include <sys/stat.h>
 
@@ -70,23 +72,18 @@ bool makeHome()
 Path topFolder(const Path &path, quint64 device)
 {
     Path top = path.parent_path();
+    const Path mountPoint = mountPointOf(top);
     for (Path folder = top; factsOf(folder).identity.device == device; folder = top.parent_path()) {
         top = folder;
-        if (top == top.parent_path())
+        if (top == mountPoint || top == top.parent_path())
             break;
     }
     return top;
 }
 
-/// Where \a path could go, best first. Never another file system: that would be a copy, which can
-/// fail half-way.
-std::vector<Trash> trashesFor(const Path &path)
+/// Those of the file system of \a path, best first.
+std::vector<Trash> trashesAtTop(const Path &path, quint64 device)
 {
-    const quint64 device = factsOf(path).identity.device;
-    const Path home = homeFolder();
-    if (makeHome() && identityOf(home).value_or(Identity()).device == device)
-        return {{home, {}}};
-
     std::vector<Trash> trashes;
     const Path top = topFolder(path, device);
     const std::string user = std::to_string(::geteuid());
@@ -98,6 +95,31 @@ std::vector<Trash> trashesFor(const Path &path)
         trashes.push_back({shared / user, top});
     trashes.push_back({top / (".Trash-" + user), top});
     return trashes;
+}
+
+/// Where \a path could go, best first. Never another file system: that would be a copy, which can
+/// fail half-way.
+std::vector<Trash> trashesFor(const Path &path)
+{
+    const quint64 device = factsOf(path).identity.device;
+    const Path home = homeFolder();
+    if (makeHome() && identityOf(home).value_or(Identity()).device == device
+        && mountPointOf(resolved(home / "files")) == mountPointOf(path))
+        return {{home, {}}};
+    return trashesAtTop(path, device);
+}
+
+/// Whether \a path is in \a folder, or is that.
+bool holds(const Identity &folder, Path path)
+{
+    for (;;) {
+        if (identityOf(path) == folder)
+            return true;
+        const Path parent = path.parent_path();
+        if (parent == path)
+            return false;
+        path = parent;
+    }
 }
 
 QByteArray infoText(const Path &path, const Trash &trash)
@@ -187,17 +209,18 @@ bool take(const Path &path)
 
 bool isInside(const Path &path)
 {
-    const std::optional<Identity> identity = factsOf(path).isFolder() ? identityOf(path)
-                                                                      : std::nullopt;
-    for (Path folder = resolved(homeFolder() / "files"); identity;) {
-        if (identityOf(folder) == identity)
-            return true;
-        const Path parent = folder.parent_path();
-        if (parent == folder)
-            break;
-        folder = parent;
-    }
-    return false;
+    const Facts facts = factsOf(path);
+    if (!facts.isFolder())
+        return false;
+    const Path place = resolved(path);
+    std::vector<Trash> trashes = trashesAtTop(place, facts.identity.device);
+    trashes.push_back({homeFolder(), {}});
+    return std::any_of(trashes.cbegin(), trashes.cend(), [&](const Trash &trash) {
+        // The folders of the trash may be links to other places.
+        const Path files = trash.folder / "files";
+        return holds(facts.identity, resolved(files))
+               || holds(facts.identity, resolved(files / ""));
+    });
 }
 
 } // namespace VornFrame::FileTrash

@@ -61,13 +61,6 @@ Facts factsOf(const Path &path);
 /// What a path leads to in the end, links followed; nothing where that does not exist.
 std::optional<Identity> identityOf(const Path &path);
 
-/// Whether two names lead to one file. Links that lead nowhere do not.
-inline bool areSame(const Path &path, const Path &other)
-{
-    const std::optional<Identity> identity = identityOf(path);
-    return identity && identity == identityOf(other);
-}
-
 /// \a path with all links before its last component resolved.
 Path resolved(const Path &path);
 
@@ -104,11 +97,17 @@ bool moveOver(const Path &from, const Path &to);
 bool removeFile(const Path &path);
 bool removeFolder(const Path &path);
 
-/// Whether the user may take \a path out of its folder.
+/// Whether the user may take \a path out of its folder; a folder with all that is directly in it.
 bool isRemovable(const Path &path);
 
-/// Whether another file system, or another part of one, is mounted at \a path or below it.
+/// Whether another file system, or another part of one, is mounted at the folder \a path or below
+/// it; also where nobody knows.
 bool hasMountPoint(const Path &path);
+
+/// The folder above \a path, or \a path itself, where its file system is mounted. Only below that
+/// can a file be moved, also when the same file system is mounted elsewhere too. Empty where nobody
+/// knows. There must be no links in \a path.
+Path mountPointOf(const Path &path);
 
 /// Puts the file \a path on the disk.
 bool syncFile(const Path &path);

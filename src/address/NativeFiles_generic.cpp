@@ -39,11 +39,16 @@ Kind kindOf(fs::file_type type)
 }
 
 /// The path without any link in it takes the place of the number that POSIX systems give a file.
+Identity identityOfName(const Path &path)
+{
+    const Path place = resolved(path);
+    return {fs::hash_value(place.root_path()), fs::hash_value(place)};
+}
+
 Identity identityFrom(const Path &path)
 {
     std::error_code error;
-    const Path canonical = fs::weakly_canonical(path, error);
-    return {fs::hash_value(canonical.root_path()), fs::hash_value(canonical)};
+    return identityOfName(fs::weakly_canonical(path, error));
 }
 
 bool copyData(QFile &source, QFile &target, FileProgress &progress)
@@ -92,7 +97,7 @@ Facts factsOf(const Path &path)
     if (!facts.exists())
         return facts;
     facts.mode = quint32(status.permissions());
-    facts.identity = facts.kind == Kind::Link ? Identity() : identityFrom(path);
+    facts.identity = facts.kind == Kind::Link ? identityOfName(path) : identityFrom(path);
     if (facts.kind == Kind::Link)
         return facts;
     facts.size = facts.kind == Kind::File ? qint64(fs::file_size(path, error)) : 0;
@@ -199,6 +204,11 @@ bool isRemovable(const Path &path)
 {
     // Here the rights to a file itself decide, which only the attempt shows.
     return factsOf(path).exists();
+}
+
+Path mountPointOf(const Path &path)
+{
+    return path.root_path();
 }
 
 bool hasMountPoint(const Path &path)

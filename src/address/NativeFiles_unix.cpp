@@ -217,12 +217,57 @@ bool moveToReserved(const Path &from, const Path &to)
     if (moveOver(from, to))
         return true;
     const int error = errno;
+    // What did not stay at its place may have been moved nonetheless.
     if (factsOf(to).isFolder())
         removeFolder(to);
-    else
+    else if (factsOf(from).exists())
         removeFile(to);
     errno = error;
     return false;
+}
+
+/// Null at the end, where errno is 0, and after an error.
+const dirent *nextEntry(DIR *stream)
+{
+    constexpr int MaxTries = 100;
+    for (int tries = 1;; ++tries) {
+        errno = 0;
+        const dirent *entry = ::readdir(stream);
+        if (entry != nullptr || errno != EINTR || tries == MaxTries)
+            return entry;
+    }
+}
+
+/// Whether the user may add to a folder and take out of it.
+bool isChangeable(const Path &folder)
+{
+    return retried([&] { return ::faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS); })
+           == 0;
+}
+
+/// Nothing when it could not be found out.
+std::optional<std::vector<std::string>> mountPoints()
+{
+    std::vector<std::string> points;
+#ifdef Q_OS_LINUX
+    const std::unique_ptr<FILE, int (*)(FILE *)> table(::setmntent("/proc/self/mounts", "re"),
+                                                       ::endmntent);
+    mntent mount = {};
+    std::array<char, 16384> buffer = {};
+    while (table && ::getmntent_r(table.get(), &mount, buffer.data(), int(buffer.size())))
+        points.emplace_back(mount.mnt_dir);
+    // An interrupted table would look like a short one.
+    if (!table || std::ferror(table.get()) != 0)
+        return std::nullopt;
+#else
+    struct statfs *mounts = nullptr;
+    const int count = ::getmntinfo(&mounts, MNT_NOWAIT);
+    for (int i = 0; i < count; ++i)
+        points.emplace_back(&mounts[i].f_mntonname[0]);
+#endif
+    if (points.empty())
+        return std::nullopt;
+    return points;
 }
 
 bool isAtOrBelow(const std::string &path, const std::string &folder)
@@ -280,8 +325,7 @@ std::optional<std::vector<Path>> namesIn(const Path &folder)
         return std::nullopt;
     file.release();
     std::vector<Path> names;
-    const dirent *entry = nullptr;
-    while (errno = 0, (entry = ::readdir(stream)) != nullptr) {
+    while (const dirent *entry = nextEntry(stream)) {
         const char *name = &entry->d_name[0];
         if (std::strcmp(name, ".") != 0 && std::strcmp(name, "..") != 0)
             names.emplace_back(name);
@@ -380,13 +424,16 @@ bool removeFolder(const Path &path)
 bool isRemovable(const Path &path)
 {
     const Path folder = resolved(path).parent_path();
-    if (retried([&] { return ::faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS); })
-        != 0)
+    if (!isChangeable(folder))
         return false;
     struct stat folderStatus = {};
     struct stat status = {};
     if (retried([&] { return ::stat(folder.c_str(), &folderStatus); }) != 0
         || retried([&] { return ::lstat(path.c_str(), &status); }) != 0)
+        return false;
+    // Neither to the trash nor for good; but a part of what is further below could be removed.
+    if (S_ISDIR(status.st_mode) && !isChangeable(path)
+        && !namesIn(path).value_or(std::vector<Path>(1)).empty())
         return false;
     const uid_t user = ::geteuid();
     const bool isSticky = (folderStatus.st_mode & S_ISVTX) != 0;
@@ -395,25 +442,24 @@ bool isRemovable(const Path &path)
 
 bool hasMountPoint(const Path &path)
 {
-    const std::string folder = resolved(path).native();
-#ifdef Q_OS_LINUX
-    const std::unique_ptr<FILE, int (*)(FILE *)> table(::setmntent("/proc/self/mounts", "re"),
-                                                       ::endmntent);
-    mntent mount = {};
-    std::array<char, 16384> buffer = {};
-    while (table && ::getmntent_r(table.get(), &mount, buffer.data(), int(buffer.size()))) {
-        if (isAtOrBelow(mount.mnt_dir, folder))
-            return true;
+    std::error_code error;
+    const Path folder = std::filesystem::canonical(path, error);
+    const std::optional<std::vector<std::string>> mounts = mountPoints();
+    if (error || !mounts)
+        return true;
+    return std::any_of(mounts->cbegin(), mounts->cend(), [&folder](const std::string &mount) {
+        return isAtOrBelow(mount, folder.native());
+    });
+}
+
+Path mountPointOf(const Path &path)
+{
+    std::string nearest;
+    for (const std::string &mount : mountPoints().value_or(std::vector<std::string>())) {
+        if (isAtOrBelow(path.native(), mount) && mount.size() > nearest.size())
+            nearest = mount;
     }
-#else
-    struct statfs *mounts = nullptr;
-    const int count = ::getmntinfo(&mounts, MNT_NOWAIT);
-    for (int i = 0; i < count; ++i) {
-        if (isAtOrBelow(&mounts[i].f_mntonname[0], folder))
-            return true;
-    }
-#endif
-    return false;
+    return nearest;
 }
 
 // --- To the disk ----------------------------------------------------------------------------
