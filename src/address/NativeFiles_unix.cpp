@@ -245,29 +245,46 @@ bool isChangeable(const Path &folder)
            == 0;
 }
 
+#ifdef Q_OS_LINUX
+
+/// Nothing, and why in errno, when it could not be read to its end.
+std::optional<std::vector<std::string>> readMountPoints()
+{
+    PosixFile file("/proc/self/mounts", O_RDONLY);
+    const std::unique_ptr<FILE, int (*)(FILE *)> table(
+        file.isOpen() ? ::fdopen(file.descriptor(), "r") : nullptr, ::endmntent);
+    if (!table)
+        return std::nullopt;
+    file.release();
+    std::vector<std::string> points;
+    mntent mount = {};
+    std::array<char, 16384> buffer = {};
+    while (::getmntent_r(table.get(), &mount, buffer.data(), int(buffer.size())) != nullptr)
+        points.emplace_back(mount.mnt_dir);
+    if (std::ferror(table.get()) != 0)
+        return std::nullopt;
+    return points;
+}
+
+#endif
+
 /// Nothing when it could not be found out.
 std::optional<std::vector<std::string>> mountPoints()
 {
-    std::vector<std::string> points;
+    std::optional<std::vector<std::string>> points;
 #ifdef Q_OS_LINUX
-    const std::unique_ptr<FILE, int (*)(FILE *)> table(::setmntent("/proc/self/mounts", "re"),
-                                                       ::endmntent);
-    mntent mount = {};
-    std::array<char, 16384> buffer = {};
-    while (table && ::getmntent_r(table.get(), &mount, buffer.data(), int(buffer.size())))
-        points.emplace_back(mount.mnt_dir);
-    // An interrupted table would look like a short one.
-    if (!table || std::ferror(table.get()) != 0)
-        return std::nullopt;
+    constexpr int MaxTries = 3;
+    for (int tries = 0; tries < MaxTries && !points; ++tries)
+        points = readMountPoints();
 #else
     struct statfs *mounts = nullptr;
     const int count = ::getmntinfo(&mounts, MNT_NOWAIT);
+    points.emplace();
     for (int i = 0; i < count; ++i)
-        points.emplace_back(&mounts[i].f_mntonname[0]);
+        points->emplace_back(&mounts[i].f_mntonname[0]);
 #endif
-    if (points.empty())
-        return std::nullopt;
-    return points;
+    // There is always one.
+    return points && !points->empty() ? points : std::nullopt;
 }
 
 bool isAtOrBelow(const std::string &path, const std::string &folder)
