@@ -63,20 +63,20 @@ void FileCopier::copy(const Path &source, const Path &target, bool overwrite)
         std::filesystem::create_directories(target.parent_path(), error);
     }
     // A link on the way to the target may be what is replaced.
-    copyChecked(source, facts, resolved(target), overwrite);
+    const Path place = resolved(target);
+    copyChecked({source, facts}, {place, factsOf(place)}, overwrite);
 }
 
-void FileCopier::copyChecked(const Path &source, const Facts &facts, const Path &target,
-                             bool overwrite)
+void FileCopier::copyChecked(const Entry &source, const Entry &target, bool overwrite)
 {
-    m_progress.setCurrent(source);
-    switch (facts.kind) {
+    m_progress.setCurrent(source.path);
+    switch (source.facts.kind) {
     case Kind::Folder:
-        copyFolder(source, facts, target, overwrite);
+        copyFolder(source, target, overwrite);
         break;
     case Kind::File:
     case Kind::Link:
-        copyLeaf(source, facts, target, overwrite);
+        copyLeaf(source, target, overwrite);
         break;
     case Kind::Special:
     case Kind::None:
@@ -86,85 +86,89 @@ void FileCopier::copyChecked(const Path &source, const Facts &facts, const Path 
 
 // --- Folders --------------------------------------------------------------------------------
 
-void FileCopier::copyFolder(const Path &source, const Facts &facts, const Path &target,
-                            bool overwrite)
+void FileCopier::copyFolder(const Entry &source, const Entry &target, bool overwrite)
 {
-    const bool isNew = !factsOf(target).exists();
-    if (isNew && !makeFolder(target))
+    const bool isNew = !target.facts.exists();
+    if (isNew && !makeFolder(target.path))
         return;
-    const Identity identity = factsOf(target).identity;
     if (!m_target)
-        m_target = identity;
+        m_target = factsOf(target.path).identity;
+    // In a new folder there is nothing to look for.
+    const auto found = [isNew](const Path &path) { return isNew ? Facts() : factsOf(path); };
 
-    const std::optional<std::vector<Path>> names = namesIn(source);
+    const std::optional<std::vector<Path>> names = namesIn(source.path);
     std::vector<Path> folders;
     for (const Path &name : names.value_or(std::vector<Path>())) {
         if (m_progress.isCancelled())
             return;
-        const Facts entry = factsOf(source / name);
-        if (entry.isFolder())
+        const Path path = source.path / name;
+        const Facts facts = factsOf(path);
+        const Path place = target.path / name;
+        if (facts.isFolder())
             folders.push_back(name);
         else
-            copyChecked(source / name, entry, target / name, overwrite);
+            copyChecked({path, facts}, {place, found(place)}, overwrite);
     }
     for (const Path &name : folders) {
         if (m_progress.isCancelled())
             return;
-        copySubFolder(source / name, target / name, overwrite);
+        const Path path = source.path / name;
+        const Path place = target.path / name;
+        copySubFolder({path, factsOf(path)}, {place, found(place)}, overwrite);
     }
     if (isNew)
-        setAttributes(target, facts);
+        setAttributes(target.path, source.facts);
     if (names)
-        note(source, facts);
+        note(source);
 }
 
-void FileCopier::copySubFolder(const Path &source, const Path &target, bool overwrite)
+void FileCopier::copySubFolder(const Entry &source, const Entry &target, bool overwrite)
 {
-    const Facts facts = factsOf(source);
     // Mounted in two places, a folder can lie inside itself without its name telling so.
-    if (facts.identity == m_target)
+    if (source.facts.identity == m_target)
         return;
-    const FileCheck::Code code = FileCheck::checkKinds(facts, factsOf(target));
+    const FileCheck::Code code = FileCheck::checkKinds(source.facts, target.facts);
     if (code == FileCheck::SourceMissing || code == FileCheck::FileAndFolder)
-        m_report(source, target, code);
+        m_report(source.path, target.path, code);
     else
-        copyChecked(source, facts, target, overwrite);
+        copyChecked(source, target, overwrite);
 }
 
 // --- Files and links ------------------------------------------------------------------------
 
-void FileCopier::copyLeaf(const Path &source, const Facts &facts, const Path &target,
-                          bool overwrite)
+void FileCopier::copyLeaf(const Entry &source, const Entry &target, bool overwrite)
 {
-    const Facts existing = factsOf(target);
-    if (existing.exists()) {
-        const bool isFile = existing.kind == Kind::File || existing.kind == Kind::Link;
-        // Where upper and lower case are the same, two names of the source can be one here.
-        const bool isOwn = m_replacements.count(existing.identity.file) != 0;
-        if (!overwrite || !isFile || isOwn || FileCheck::isSame(source, target))
-            return;
-    }
-    const Path copy = temporaryName(target);
-    Facts copied = facts;
-    if (makeCopy(source, facts, copy, &copied)) {
-        if (putInPlace(copy, target, existing.exists())) {
+    const bool isTaken = target.facts.exists();
+    if (isTaken && (!overwrite || !isReplaceable(source, target)))
+        return;
+    const Path copy = temporaryName(target.path);
+    Facts copied = source.facts;
+    if (makeCopy(source, copy, &copied)) {
+        if (putInPlace(copy, target.path, isTaken)) {
             if (overwrite)
-                m_replacements.insert(factsOf(target).identity.file);
-            note(source, copied);
+                m_replacements.insert(factsOf(target.path).identity.file);
+            note({source.path, copied});
             return;
         }
         removeFile(copy);
     }
-    if (existing.exists())
-        logFailure(source, target);
+    if (isTaken)
+        logFailure(source.path, target.path);
 }
 
-bool FileCopier::makeCopy(const Path &source, const Facts &facts, const Path &copy, Facts *copied)
+bool FileCopier::isReplaceable(const Entry &source, const Entry &target) const
 {
-    m_progress.setCurrent(source);
-    if (facts.kind == Kind::Link)
-        return copyLink(source, copy);
-    return copyFile(source, copy, copied, m_progress);
+    const bool isFile = target.facts.kind == Kind::File || target.facts.kind == Kind::Link;
+    // Where upper and lower case are the same, two names of the source can be one here.
+    const bool isOwn = m_replacements.count(target.facts.identity.file) != 0;
+    return isFile && !isOwn && !FileCheck::isSame(source.path, target.path);
+}
+
+bool FileCopier::makeCopy(const Entry &source, const Path &copy, Facts *copied)
+{
+    if (source.facts.kind == Kind::Link)
+        return copyLink(source.path, copy);
+    return copyFile(source.path, copy, copied, m_progress);
 }
 
 bool FileCopier::putInPlace(const Path &copy, const Path &target, bool overwrite)
@@ -181,10 +185,10 @@ bool FileCopier::putInPlace(const Path &copy, const Path &target, bool overwrite
 
 // --- Proof ----------------------------------------------------------------------------------
 
-void FileCopier::note(const Path &source, const Facts &facts)
+void FileCopier::note(const Entry &source)
 {
     if (m_record)
-        m_record->add(source, facts);
+        m_record->add(source.path, source.facts);
 }
 
 bool FileCopier::hasArrived(const Path &source, const Path &target) const

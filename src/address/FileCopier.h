@@ -42,16 +42,17 @@ private:
 
     struct Entry
     {
-        Path name;
+        const Path &path;
         Facts facts;
     };
 
-    void copyChecked(const Path &source, const Facts &facts, const Path &target, bool overwrite);
-    void copyFolder(const Path &source, const Facts &facts, const Path &target, bool overwrite);
-    void copySubFolder(const Path &source, const Path &target, bool overwrite);
-    void copyLeaf(const Path &source, const Facts &facts, const Path &target, bool overwrite);
-    void note(const Path &source, const Facts &facts);
-    bool makeCopy(const Path &source, const Facts &facts, const Path &copy, Facts *copied);
+    void copyChecked(const Entry &source, const Entry &target, bool overwrite);
+    void copyFolder(const Entry &source, const Entry &target, bool overwrite);
+    void copySubFolder(const Entry &source, const Entry &target, bool overwrite);
+    void copyLeaf(const Entry &source, const Entry &target, bool overwrite);
+    bool isReplaceable(const Entry &source, const Entry &target) const;
+    void note(const Entry &source);
+    bool makeCopy(const Entry &source, const Path &copy, Facts *copied);
     bool putInPlace(const Path &copy, const Path &target, bool overwrite);
     bool isComplete(const Path &source, const Path &target, std::vector<Path> *folders) const;
     bool isLeafComplete(const Path &source, const Facts &facts, const Path &target) const;
