@@ -20,6 +20,7 @@
 #include <QUrl>
 #include <QWidget>
 
+#include <system_error>
 #include <vector>
 
 namespace VornFrame {
@@ -38,6 +39,12 @@ bool operationIsRunning = false;
 
 Path nativePath(const QString &path)
 {
+    // Qt would take away a name before "..", also that of a link, which leads elsewhere.
+    const QStringList parts = path.split(u'/');
+    if (parts.contains(".."_L1) && parts.constLast() != ".."_L1) {
+        std::error_code error;
+        return NativeFiles::resolved(std::filesystem::absolute(NativeFiles::fromText(path), error));
+    }
     return NativeFiles::fromText(QFileInfo(path).absoluteFilePath());
 }
 
@@ -56,7 +63,8 @@ QStringList localFiles(const QMimeData &data)
 Path sourcePath(const QString &path)
 {
     const Path source = nativePath(path);
-    if (path.isEmpty() || source.filename() == "." || source.filename() == "..")
+    const QString name = path.section(u'/', -1, -1, QString::SectionSkipEmpty);
+    if (path.isEmpty() || name == "."_L1 || name == ".."_L1)
         return NativeFiles::fromText(QFileInfo(path).canonicalFilePath());
     return source;
 }

@@ -89,8 +89,11 @@ void FilePaste::run(const std::vector<Path> &sources, const Path &folder)
     const Path place = std::filesystem::canonical(folder, error);
     if (error)
         return;
-    for (const Path &source : sources)
-        m_progress.addTotal(sizeOf(source, m_progress));
+    for (const Path &source : sources) {
+        // A folder that cannot be pasted can be the whole disk.
+        if (FileCheck::check(source, place / source.filename()) != FileCheck::TargetInsideSource)
+            m_progress.addTotal(sizeOf(source, m_progress));
+    }
     for (const Path &source : sources) {
         if (m_progress.isCancelled())
             break;

@@ -9,6 +9,8 @@
 #include <QStandardPaths>
 
 #include <fstream>
+#include <iterator>
+#include <string>
 
 #ifdef Q_OS_LINUX
 #    include <sched.h>
@@ -98,6 +100,12 @@ void makeFile(const Path &path, const QByteArray &seed, int size)
     while (bytes.size() < size)
         bytes += seed + QByteArray::number(bytes.size());
     file << bytes.left(size).toStdString();
+}
+
+QByteArray readAll(const Path &path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return QByteArray::fromStdString(std::string((std::istreambuf_iterator<char>(file)), {}));
 }
 
 Operation::Operation(const QStringList &words, const Path &dataHome, const QStringList &prefix)

@@ -57,6 +57,8 @@ QString text(const Path &folder, const char *name);
 /// Makes a file, and the folders above it; the same \a seed gives the same content.
 void makeFile(const Path &path, const QByteArray &seed, int size = 3000);
 
+QByteArray readAll(const Path &path);
+
 /// One operation as one process: fileoperator with \a words, its trash in \a dataHome.
 class Operation
 {

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: VornFrame contributors
 // SPDX-License-Identifier: MIT
 
-// File operations on disks that are full, and with system calls that fail, one after the other. No
-// byte may be lost, whichever it is.
+// File operations on disks that are full, and with system calls that fail, one after the other, and
+// while others change the files. No byte may be lost, whatever happens.
 
 #include "address/FaultScene.h"
 
@@ -91,6 +91,8 @@ private Q_SLOTS:
     void allCallsFailFromOneOn();
     void killed_data();
     void killed();
+    void changedMeanwhile_data();
+    void changedMeanwhile();
 
 private:
     void tryOnDisk(const QString &options);
@@ -309,9 +311,12 @@ void tst_FileFaults::callFails()
         QSKIP("this system lets no process trace another");
     std::vector<Fault> faults;
     int number = 0;
+    // Those that only look are many, and much alike.
+    const QStringList looking = {u"newfstatat"_s, u"readlink"_s, u"lseek"_s, u"close"_s};
     for (const auto &[call, count] : calls) {
+        const int step = looking.contains(call) ? 3 : 1;
         for (const QString &error : errorsOf(call)) {
-            for (int when = 1; when <= count; ++when) {
+            for (int when = 1; when <= count; when += step) {
                 if (number++ % Stride == 0)
                     faults.push_back({call, error, QString::number(when)});
             }
@@ -371,6 +376,76 @@ void tst_FileFaults::killed()
             faults.push_back({call, u"signal=KILL"_s, QString::number(when)});
     }
     tryAll(faults);
+}
+
+// --- Others at work -------------------------------------------------------------------------
+
+void tst_FileFaults::changedMeanwhile_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::newRow("grows") << u"printf more >> %1"_s;
+    QTest::newRow("shrinks") << u"truncate -s 100 %1"_s;
+    QTest::newRow("is written over") << u"printf MORE | dd of=%1 conv=notrunc status=none"_s;
+    QTest::newRow("vanishes") << u"mv %1 %1.away"_s;
+    QTest::newRow("becomes a link") << u"mv %1 %1.away; ln -s /etc/passwd %1"_s;
+    QTest::newRow("becomes a pipe") << u"mv %1 %1.away; mkfifo %1"_s;
+    QTest::newRow("becomes a folder") << u"mv %1 %1.away; mkdir %1; echo in > %1/in"_s;
+    QTest::newRow("becomes another file") << u"mv %1 %1.away; echo new > %1"_s;
+    QTest::newRow("gets a neighbour") << u"echo new > %1.new"_s;
+}
+
+/// Stops the operation at one call after the other, while somebody else changes the source.
+void tst_FileFaults::changedMeanwhile()
+{
+    QFETCH(const QString, command);
+    if (!hasProgram(u"strace"_s))
+        QSKIP("strace is not installed");
+    const std::vector<std::pair<const char *, int>> stops = {
+        {"openat", 1},    {"openat", 2}, {"copy_file_range", 1}, {"utimensat", 1},
+        {"renameat2", 1}, {"openat", 3}, {"syncfs", 1}};
+    for (const auto &[call, when] : stops) {
+        const Path folder = m_base / "disk/run";
+        fs::create_directories(folder / "target");
+        makeFile(folder / "source", "source", 300'000);
+        makeFile(m_base / "disk/data/Trash", "none");
+        makeFile(m_base / "disk/.Trash-0", "none");
+        const QByteArray content = FileCensus::contentOf(folder / "source");
+        Operation operation({u"--wait-for-tracer"_s, u"paste"_s, u"cut"_s, text(folder / "target"),
+                             text(folder / "source")},
+                            m_base / "disk/data");
+        QVERIFY(operation.process().waitForReadyRead());
+        const QString id = QString::fromLatin1(operation.process().readLine()).section(u' ', 1);
+        QProcess tracer;
+        tracer.start(
+            u"strace"_s,
+            {u"-f"_s, u"-qq"_s, u"-o"_s, text(folder / "log"), u"-e"_s,
+             u"trace=%1"_s.arg(QLatin1StringView(call)), u"-e"_s,
+             u"inject=%1:delay_enter=200000:when=%2"_s.arg(QLatin1StringView(call)).arg(when),
+             u"-p"_s, id.trimmed()});
+        // It stands still when the tracer has noted the call.
+        QTRY_VERIFY(readAll(folder / "log").count(call) >= when || tracer.state() == 0);
+        const bool wasThere = fs::exists(fs::symlink_status(folder / "source"));
+        const QString place = u'\'' + text(folder / "source") + u'\'';
+        if (wasThere)
+            run(u"sh"_s, {u"-c"_s, QString(command).replace(u"%1"_s, place)});
+        QVERIFY(operation.finish());
+        QVERIFY(tracer.waitForFinished());
+        const auto isThere = [&](const Path &file) { return fs::exists(fs::symlink_status(file)); };
+        const QByteArray where = QByteArray(call) + ' ' + QByteArray::number(when);
+        // What the others made stays, unless it arrived.
+        const FileCensus after = FileCensus::of({folder});
+        QVERIFY2(after.leftovers().isEmpty(), where.constData());
+        if (command.contains(u".away"_s) && wasThere && isThere(folder / "source.away")) {
+            QCOMPARE(FileCensus::contentOf(folder / "source.away"), content);
+        } else if (command.startsWith("mv"_L1) || command.startsWith("echo"_L1)) {
+            QVERIFY2(isThere(folder / "source")
+                         || FileCensus::contentOf(folder / "target/source") == content,
+                     where.constData());
+        }
+        if (command == "printf more >> %1"_L1 && !isThere(folder / "source") && wasThere)
+            QVERIFY2(readAll(folder / "target/source").endsWith("more"), where.constData());
+        fs::remove_all(folder);
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_FileFaults)

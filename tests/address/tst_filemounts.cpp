@@ -2,15 +2,13 @@
 // SPDX-License-Identifier: MIT
 
 // File operations with other file systems mounted around and inside, without the rights that they
-// would need, with a trash that does not work, and on files that others change meanwhile.
+// would need, and with a trash that does not work.
 
 #include "address/FaultScene.h"
 
-#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <fstream>
 #include <system_error>
 
 #include <fcntl.h>
@@ -47,12 +45,6 @@ void giveAway(const Path &path)
     for (fs::recursive_directory_iterator entry(path, error);
          entry != fs::recursive_directory_iterator(); entry.increment(error))
         QVERIFY(::lchown(entry->path().c_str(), Nobody, Nobody) == 0);
-}
-
-QByteArray readAll(const Path &path)
-{
-    std::ifstream file(path, std::ios::binary);
-    return QByteArray::fromStdString(std::string((std::istreambuf_iterator<char>(file)), {}));
 }
 
 } // namespace
@@ -92,9 +84,6 @@ private Q_SLOTS:
     void missingRights();
     void immutable_data();
     void immutable();
-
-    void changedMeanwhile_data();
-    void changedMeanwhile();
 
 private:
     void operate(const QStringList &words, const QStringList &prefix = {});
@@ -523,76 +512,6 @@ void tst_FileMounts::immutable()
             run(u"chattr"_s, {u"-R"_s, u"-i"_s, text(run_folder)});
         QVERIFY(isFinished);
         QCOMPARE(faults, QString());
-    }
-}
-
-// --- Others at work -------------------------------------------------------------------------
-
-void tst_FileMounts::changedMeanwhile_data()
-{
-    QTest::addColumn<QString>("command");
-    QTest::newRow("grows") << u"printf more >> %1"_s;
-    QTest::newRow("shrinks") << u"truncate -s 100 %1"_s;
-    QTest::newRow("is written over") << u"printf MORE | dd of=%1 conv=notrunc status=none"_s;
-    QTest::newRow("vanishes") << u"mv %1 %1.away"_s;
-    QTest::newRow("becomes a link") << u"mv %1 %1.away; ln -s /etc/passwd %1"_s;
-    QTest::newRow("becomes a pipe") << u"mv %1 %1.away; mkfifo %1"_s;
-    QTest::newRow("becomes a folder") << u"mv %1 %1.away; mkdir %1; echo in > %1/in"_s;
-    QTest::newRow("becomes another file") << u"mv %1 %1.away; echo new > %1"_s;
-    QTest::newRow("gets a neighbour") << u"echo new > %1.new"_s;
-}
-
-/// Stops the operation at one call after the other, while somebody else changes the source.
-void tst_FileMounts::changedMeanwhile()
-{
-    QFETCH(const QString, command);
-    if (!hasProgram(u"strace"_s))
-        QSKIP("strace is not installed");
-    const std::vector<std::pair<const char *, int>> stops = {
-        {"openat", 1},    {"openat", 2}, {"copy_file_range", 1}, {"utimensat", 1},
-        {"renameat2", 1}, {"openat", 3}, {"syncfs", 1}};
-    for (const auto &[call, when] : stops) {
-        const Path folder = path("run");
-        fs::create_directories(folder / "target");
-        makeFile(folder / "source", "source", 300'000);
-        makeFile(path("data/Trash"), "none");
-        makeFile(path(".Trash-0"), "none");
-        const QByteArray content = FileCensus::contentOf(folder / "source");
-        Operation operation({u"--wait-for-tracer"_s, u"paste"_s, u"cut"_s, text(folder / "target"),
-                             text(folder / "source")},
-                            path("data"));
-        QVERIFY(operation.process().waitForReadyRead());
-        const QString id = QString::fromLatin1(operation.process().readLine()).section(u' ', 1);
-        QProcess tracer;
-        tracer.start(
-            u"strace"_s,
-            {u"-f"_s, u"-qq"_s, u"-o"_s, text(folder / "log"), u"-e"_s,
-             u"trace=%1"_s.arg(QLatin1StringView(call)), u"-e"_s,
-             u"inject=%1:delay_enter=200000:when=%2"_s.arg(QLatin1StringView(call)).arg(when),
-             u"-p"_s, id.trimmed()});
-        // It stands still when the tracer has noted the call.
-        QTRY_VERIFY(readAll(folder / "log").count(call) >= when || tracer.state() == 0);
-        const bool wasThere = fs::exists(fs::symlink_status(folder / "source"));
-        const QString place = u'\'' + text(folder / "source") + u'\'';
-        if (wasThere)
-            run(u"sh"_s, {u"-c"_s, QString(command).replace(u"%1"_s, place)});
-        QVERIFY(operation.finish());
-        QVERIFY(tracer.waitForFinished());
-        const auto isThere = [&](const Path &file) { return fs::exists(fs::symlink_status(file)); };
-        const QByteArray where = QByteArray(call) + ' ' + QByteArray::number(when);
-        // What the others made stays, unless it arrived.
-        const FileCensus after = FileCensus::of({folder});
-        QVERIFY2(after.leftovers().isEmpty(), where.constData());
-        if (command.contains(u".away"_s) && wasThere && isThere(folder / "source.away")) {
-            QCOMPARE(FileCensus::contentOf(folder / "source.away"), content);
-        } else if (command.startsWith("mv"_L1) || command.startsWith("echo"_L1)) {
-            QVERIFY2(isThere(folder / "source")
-                         || FileCensus::contentOf(folder / "target/source") == content,
-                     where.constData());
-        }
-        if (command == "printf more >> %1"_L1 && !isThere(folder / "source") && wasThere)
-            QVERIFY2(readAll(folder / "target/source").endsWith("more"), where.constData());
-        fs::remove_all(folder);
     }
 }
 
