@@ -6,6 +6,7 @@
 /// \file
 /// Every exported class of the library.
 
+#include <VornFrame/AddressBar.h>
 #include <VornFrame/DockContainer.h>
 #include <VornFrame/DockContentWidget.h>
 #include <VornFrame/DockPanelWidget.h>

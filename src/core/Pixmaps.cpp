@@ -3,6 +3,8 @@
 
 #include "Pixmaps.h"
 
+#include <QPaintEngine>
+#include <QPainter>
 #include <QPixmapCache>
 #include <QString>
 
@@ -23,6 +25,11 @@ QPixmap rendered(QLatin1StringView path, QSize size, qreal ratio, QIcon::Mode mo
         QPixmapCache::insert(key, pixmap);
     }
     return pixmap;
+}
+
+qreal deviceRatio(const QPainter &painter)
+{
+    return painter.paintEngine()->paintDevice()->devicePixelRatioF();
 }
 
 } // namespace VornFrame::Pixmaps

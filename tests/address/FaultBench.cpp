@@ -114,6 +114,8 @@ Operation::Operation(const QStringList &words, const Path &dataHome, const QStri
     environment.insert(u"XDG_DATA_HOME"_s, text(dataHome));
     environment.insert(u"XDG_RUNTIME_DIR"_s, u"/tmp"_s);
     environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+    // Leaks cannot be looked for in a process that is traced.
+    environment.insert(u"ASAN_OPTIONS"_s, u"detect_leaks=0"_s);
     m_process.setProcessEnvironment(environment);
     const QString program = QCoreApplication::applicationDirPath() + u"/fileoperator"_s;
     // A hang is a fault too.
