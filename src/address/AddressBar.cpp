@@ -14,7 +14,6 @@
 #include "core/StyleSheets.h"
 
 #include <QAction>
-#include <QClipboard>
 #include <QDir>
 #include <QEvent>
 #include <QGuiApplication>

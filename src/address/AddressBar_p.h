@@ -5,6 +5,7 @@
 
 #include <VornFrame/AddressBar.h>
 
+#include <QClipboard>
 #include <QPointer>
 #include <QStringList>
 
@@ -12,7 +13,6 @@
 #include <memory>
 
 class QAction;
-class QClipboard;
 class QMenu;
 class QPushButton;
 

@@ -7,7 +7,8 @@
 #include "AddressFolders.h"
 #include "AddressPaths.h"
 
-#include <QApplication>
+#include "core/SharedIcons.h"
+
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPointer>
@@ -32,12 +33,22 @@ QString menuText(const QString &name)
     return AddressPaths::singleLine(name).replace(u'&', u"&&"_s);
 }
 
+void fillMenu(QMenu *menu, const QIcon &icon, const QStringList &names)
+{
+    for (const QString &name : names) {
+        // The name goes in before the action: a menu looks at each change of its actions.
+        auto *action = new QAction(icon, menuText(name), menu);
+        action->setData(name);
+        menu->addAction(action);
+    }
+}
+
 } // namespace
 
 void AddressEntryPrivate::init()
 {
-    driveIcon = QApplication::style()->standardIcon(QStyle::SP_DriveHDIcon);
-    folderIcon = QApplication::style()->standardIcon(QStyle::SP_DirIcon);
+    driveIcon = SharedIcons::standardIcon(QStyle::SP_DriveHDIcon);
+    folderIcon = SharedIcons::standardIcon(QStyle::SP_DirIcon);
     pen.setCosmetic(true);
     q_ptr->setMouseTracking(true);
     QObject::connect(q_ptr, &AddressEntry::clicked, q_ptr, [this] {
@@ -65,16 +76,6 @@ void AddressEntryPrivate::buildMenu()
     QObject::connect(menu, &QMenu::aboutToHide, q_ptr, [this] { setHovered(false); });
     QObject::connect(menu, &QMenu::triggered, q_ptr,
                      [this](const QAction *action) { choose(action); });
-}
-
-void AddressEntryPrivate::fillMenu(QMenu *menu, const QIcon &icon, const QStringList &names)
-{
-    for (const QString &name : names) {
-        // The name goes in before the action: a menu looks at each change of its actions.
-        auto *action = new QAction(icon, menuText(name), menu);
-        action->setData(name);
-        menu->addAction(action);
-    }
 }
 
 void AddressEntryPrivate::choose(const QAction *action)

@@ -26,7 +26,6 @@ public:
     void init();
 
     void buildMenu();
-    void fillMenu(QMenu *menu, const QIcon &icon, const QStringList &names);
     void choose(const QAction *action);
     void placeMenu(QMenu *menu) const;
 

@@ -17,10 +17,10 @@ constexpr QChar Backslash(u'\\');
 /// What stands before the first name: "/", the two separators of a network path, or nothing.
 QString rootOf(const QString &path)
 {
-    const auto name = std::find_if(path.begin(), path.end(),
-                                   [](QChar character) { return character != Separator; });
-    const auto separators = name - path.begin();
-    if (separators == 2 && name != path.end())
+    qsizetype separators = 0;
+    while (separators < path.size() && path.at(separators) == Separator)
+        ++separators;
+    if (separators == 2 && path.size() > 2)
         return u"//"_s;
     return separators > 0 ? u"/"_s : QString();
 }
@@ -28,6 +28,13 @@ QString rootOf(const QString &path)
 bool isBareDrive(const QString &path)
 {
     return path.size() == 2 && path.at(0) != Separator && path.at(1) == u':';
+}
+
+bool breaksLine(QChar character)
+{
+    const QChar::Category category = character.category();
+    return category == QChar::Other_Control || category == QChar::Separator_Line
+           || category == QChar::Separator_Paragraph;
 }
 
 enum class Spaces { Kept, Trimmed };
@@ -102,15 +109,11 @@ QStringList typed(const QString &text)
 
 QString singleLine(const QString &text)
 {
+    // Most names stay as they are and need no copy.
+    if (std::none_of(text.begin(), text.end(), breaksLine))
+        return text;
     QString line = text;
-    std::replace_if(
-        line.begin(), line.end(),
-        [](QChar character) {
-            const QChar::Category category = character.category();
-            return category == QChar::Other_Control || category == QChar::Separator_Line
-                   || category == QChar::Separator_Paragraph;
-        },
-        QChar(u' '));
+    std::replace_if(line.begin(), line.end(), breaksLine, QChar(u' '));
     return line;
 }
 

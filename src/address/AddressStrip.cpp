@@ -8,6 +8,8 @@
 #include "AddressPaths.h"
 #include "AddressStrip_p.h"
 
+#include "core/SharedIcons.h"
+
 #include <QApplication>
 #include <QCompleter>
 #include <QDir>
@@ -128,7 +130,7 @@ void AddressStripPrivate::rebuild(qsizetype newIndex)
 void AddressStripPrivate::addFolderPicture()
 {
     auto *picture = new QLabel(q_ptr);
-    const QIcon icon = q_ptr->style()->standardIcon(QStyle::SP_DirOpenIcon);
+    const QIcon icon = SharedIcons::standardIcon(QStyle::SP_DirOpenIcon);
     const QSize room = PictureSize.shrunkBy(
         {PictureMargin, PictureMargin, PictureMargin, PictureMargin});
     picture->setPixmap(icon.pixmap(room, q_ptr->devicePixelRatio()));
@@ -176,7 +178,7 @@ void AddressStripPrivate::fitEntries()
         used += (*entry)->sizeHint().width();
         show(*entry, used <= room);
     }
-    const bool hasLead = !last || room >= last->minimumSizeHint().width();
+    const bool hasLead = last == nullptr || room >= last->minimumSizeHint().width();
     show(layout->itemAt(0)->widget(), hasLead);
     show(root, hasLead);
     if (last)
@@ -212,6 +214,8 @@ AddressStrip::AddressStrip(QWidget *parent)
 AddressStrip::~AddressStrip()
 {
     Q_D(AddressStrip);
+    // The base class gives the focus up when there is no private object any more.
+    disconnect(qApp, nullptr, this, nullptr);
     if (d->completerCalls == 0)
         return;
     // It is the completer or its list that led here, and they go on when this is done.

@@ -166,7 +166,7 @@ bool AddressStripPrivate::isOutside(const QObject *pressed) const
     if (asking || !pressed->isWidgetType() || pressed == q_ptr || q_ptr->underMouse())
         return false;
     const QWidget *list = openList();
-    return !list || static_cast<const QWidget *>(pressed)->window() != list;
+    return list == nullptr || static_cast<const QWidget *>(pressed)->window() != list;
 }
 
 void AddressStrip::editText(const QString &text)

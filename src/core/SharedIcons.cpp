@@ -3,8 +3,9 @@
 
 #include "SharedIcons.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QHash>
+#include <QPointer>
 #include <QString>
 
 #include <utility>
@@ -18,6 +19,18 @@ using Key = std::pair<QString, QString>;
 QHash<Key, QIcon> &cache()
 {
     static QHash<Key, QIcon> icons;
+    return icons;
+}
+
+struct StandardIcons
+{
+    QPointer<QStyle> style;
+    QHash<QStyle::StandardPixmap, QIcon> icons;
+};
+
+StandardIcons &standardIcons()
+{
+    static StandardIcons icons;
     return icons;
 }
 
@@ -40,6 +53,20 @@ QIcon toggleIcon(QLatin1StringView off, QLatin1StringView on)
             icon.addFile(on, {}, QIcon::Normal, QIcon::On);
     }
     return icon;
+}
+
+QIcon standardIcon(QStyle::StandardPixmap icon)
+{
+    StandardIcons &standard = standardIcons();
+    if (standard.style != QApplication::style()) {
+        if (standard.style.isNull())
+            qAddPostRoutine([] { standardIcons() = {}; });
+        standard = {QApplication::style(), {}};
+    }
+    QIcon &result = standard.icons[icon];
+    if (result.isNull())
+        result = standard.style->standardIcon(icon);
+    return result;
 }
 
 } // namespace VornFrame::SharedIcons

@@ -1,14 +1,13 @@
 // SPDX-FileCopyrightText: VornFrame contributors
 // SPDX-License-Identifier: MIT
 
+#include "address/EditScene.h"
 #include "address/FolderTree.h"
-#include "address/StripWindow.h"
 
 #include "support/Input.h"
 #include "support/PopupDriver.h"
 #include "support/TestCase.h"
 
-#include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
 #include <QCompleter>
@@ -16,44 +15,12 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPointer>
-#include <QStringListModel>
 
+#include <functional>
 #include <memory>
 
 using namespace Qt::StringLiterals;
 using namespace VornFrame;
-
-namespace {
-
-QString backslashed(QString path)
-{
-    return path.replace(u'/', u'\\');
-}
-
-/// A strip at a path, in a window that is active.
-struct Scene : StripWindow
-{
-    explicit Scene(const QString &path)
-    {
-        strip->setPath(path);
-        m_isShown = Input::show(&window);
-        forget();
-    }
-    bool isShown() const { return m_isShown; }
-    void edit() const { Input::click(strip, QPoint(strip->width() - 5, strip->height() / 2)); }
-    void type(const QString &text) const { QTest::keyClicks(strip, text); }
-    void commit() const { QTest::keyClick(strip, Qt::Key_Return); }
-    QStringList offers() const
-    {
-        return qobject_cast<QStringListModel *>(strip->completer()->model())->stringList();
-    }
-    QAbstractItemView *list() const { return strip->completer()->popup(); }
-
-private:
-    bool m_isShown = false;
-};
-
-} // namespace
 
 class tst_AddressStripEditing : public TestCase
 {
@@ -91,20 +58,11 @@ private Q_SLOTS:
     void nothingIsTypedBelowTheEntries_data();
     void nothingIsTypedBelowTheEntries();
     void nothingCanBeUndoneAfterwards();
-
-    void foldersAreOffered_data();
-    void foldersAreOffered();
-    void atMostTwoHundredFoldersAreOffered();
-    void everyOfferIsGoneTo_data();
-    void everyOfferIsGoneTo();
-    void aClickedOfferIsGoneTo();
-    void anOfferOfTheShownPathShowsTheEntries();
-    void theStripMayGoWhenAnOfferIsClicked();
 };
 
 void tst_AddressStripEditing::aClickBesideTheEntriesShowsThePathForEditing()
 {
-    const Scene scene(u"/a/b c"_s);
+    const EditScene scene(u"/a/b c"_s);
     QVERIFY(scene.isShown());
     scene.edit();
     QVERIFY(scene.isEditing());
@@ -120,14 +78,14 @@ void tst_AddressStripEditing::aClickBesideTheEntriesShowsThePathForEditing()
 
 void tst_AddressStripEditing::aClickOnThePictureShowsThePathForEditing()
 {
-    const Scene scene(u"/a"_s);
+    const EditScene scene(u"/a"_s);
     Input::click(scene.strip->layout()->itemAt(0)->widget());
     QVERIFY(scene.isEditing());
 }
 
 void tst_AddressStripEditing::otherButtonsAreSwallowed()
 {
-    const Scene scene(u"/a"_s);
+    const EditScene scene(u"/a"_s);
     for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
         Input::click(scene.strip, QPoint(600, 10), button);
         QVERIFY(scene.shows(u"/a"_s));
@@ -142,14 +100,14 @@ void tst_AddressStripEditing::otherButtonsAreSwallowed()
 
 void tst_AddressStripEditing::aReleaseElsewhereDoesNotEdit()
 {
-    const Scene scene(u"/a"_s);
+    const EditScene scene(u"/a"_s);
     Input::drag(scene.strip, QPoint(500, 10), QPoint(500, 40));
     QVERIFY(scene.shows(u"/a"_s));
 }
 
 void tst_AddressStripEditing::aPressOnAnEntryReleasedElsewhereDoesNotEdit()
 {
-    const Scene scene(u"/a/b"_s);
+    const EditScene scene(u"/a/b"_s);
     AddressEntry *entry = scene.entries().at(1);
     Input::drag(entry, QPoint(4, 4), QPoint(300, 4));
     QVERIFY(scene.shows(u"/a/b"_s));
@@ -162,7 +120,7 @@ void tst_AddressStripEditing::aPressOnAnEntryReleasedElsewhereDoesNotEdit()
 
 void tst_AddressStripEditing::editTextShowsTheText()
 {
-    const Scene scene(u"/a"_s);
+    const EditScene scene(u"/a"_s);
     scene.strip->editText(u"some/text"_s);
     QVERIFY(scene.isEditing());
     QVERIFY(scene.strip->hasFocus());
@@ -196,7 +154,7 @@ void tst_AddressStripEditing::typedPathsAreGoneTo()
     QFETCH(const QString, folder);
     const FolderTree tree(
         {u"start"_s, u"a/b"_s, u" c "_s, u"x&y\nz\"'"_s, u"\u05e9\u05dc"_s, u"\U0001F600"_s});
-    Scene scene(tree.path(u"start"_s));
+    EditScene scene(tree.path(u"start"_s));
     scene.edit();
     QString text = pattern;
     text.replace(u"%1"_s, tree.path()).replace(u"%2"_s, backslashed(tree.path()));
@@ -219,7 +177,7 @@ void tst_AddressStripEditing::theShownPathIsCommittedAsItIs_data()
 void tst_AddressStripEditing::theShownPathIsCommittedAsItIs()
 {
     QFETCH(const QString, folder);
-    Scene scene(folder);
+    EditScene scene(folder);
     scene.edit();
     QCOMPARE(scene.strip->text(), backslashed(folder));
     scene.commit();
@@ -243,7 +201,7 @@ void tst_AddressStripEditing::missingFoldersAreReported()
     QFETCH(QString, text);
     const FolderTree tree;
     tree.addFile(u"file"_s);
-    const Scene scene(tree.path());
+    const EditScene scene(tree.path());
     text.replace(u"%1"_s, tree.path());
     scene.edit();
     scene.strip->setText(text);
@@ -271,7 +229,7 @@ void tst_AddressStripEditing::missingFoldersAreReported()
 
 void tst_AddressStripEditing::theStripMayGoWhileTheBoxIsOpen()
 {
-    const Scene scene(u"/tmp"_s);
+    const EditScene scene(u"/tmp"_s);
     const QPointer<AddressStrip> strip = scene.strip;
     strip->editText(u"/missing/folder"_s);
     PopupDriver driver([strip](QMessageBox * /*box*/) { delete strip; });
@@ -282,7 +240,7 @@ void tst_AddressStripEditing::theStripMayGoWhileTheBoxIsOpen()
 
 void tst_AddressStripEditing::goingElsewhereWhileTheBoxIsOpenEndsEditing()
 {
-    const Scene scene(u"/tmp"_s);
+    const EditScene scene(u"/tmp"_s);
     scene.strip->editText(u"/missing/folder"_s);
     PopupDriver driver([&scene](QMessageBox * /*box*/) { scene.strip->setPath(u"/usr"_s); });
     scene.commit();
@@ -300,7 +258,7 @@ void tst_AddressStripEditing::emptyTextIsGivenUp_data()
 void tst_AddressStripEditing::emptyTextIsGivenUp()
 {
     QFETCH(const QString, text);
-    const Scene scene(u"/tmp"_s);
+    const EditScene scene(u"/tmp"_s);
     const PopupBan ban;
     scene.strip->editText(text);
     scene.commit();
@@ -309,7 +267,7 @@ void tst_AddressStripEditing::emptyTextIsGivenUp()
 
 void tst_AddressStripEditing::otherKeysGoToTheLineEdit()
 {
-    const Scene scene(u"/tmp"_s);
+    const EditScene scene(u"/tmp"_s);
     scene.edit();
     scene.type(u"ab"_s);
     QTest::keyClick(scene.strip, Qt::Key_Enter);
@@ -348,7 +306,7 @@ void tst_AddressStripEditing::everyWayOutShowsTheEntries()
 {
     QFETCH(const QString, way);
     QFETCH(const QString, shown);
-    Scene scene(u"/"_s);
+    EditScene scene(u"/"_s);
     scene.strip->setPath(u"/tmp"_s);
     scene.edit();
     QVERIFY(scene.isEditing());
@@ -400,7 +358,7 @@ void tst_AddressStripEditing::everyWayOutShowsTheEntries()
 void tst_AddressStripEditing::editingAfterGoingBackAppendsThePathAgain()
 {
     const FolderTree tree({u"a"_s, u"b"_s, u"c"_s});
-    Scene scene(tree.path(u"a"_s));
+    EditScene scene(tree.path(u"a"_s));
     scene.strip->setPath(tree.path(u"b"_s));
     scene.strip->setPath(tree.path(u"c"_s));
     scene.strip->backward();
@@ -416,7 +374,7 @@ void tst_AddressStripEditing::editingAfterGoingBackAppendsThePathAgain()
 
 void tst_AddressStripEditing::editingWithAnEmptyHistoryRecordsThePath()
 {
-    const Scene scene(u"/tmp"_s);
+    const EditScene scene(u"/tmp"_s);
     scene.strip->resetPath(u"/tmp"_s);
     scene.edit();
     scene.other->setFocus();
@@ -433,7 +391,7 @@ void tst_AddressStripEditing::editingWithAnEmptyHistoryRecordsThePath()
 
 void tst_AddressStripEditing::pressesOnTheStripKeepTheText()
 {
-    const Scene scene(u"/tmp"_s);
+    const EditScene scene(u"/tmp"_s);
     scene.edit();
     scene.type(u"abc"_s);
     Input::click(scene.strip, QPoint(300, 10));
@@ -445,7 +403,7 @@ void tst_AddressStripEditing::pressesOnTheStripKeepTheText()
 
 void tst_AddressStripEditing::theWindowMayGoWhileThePathIsEdited()
 {
-    auto scene = std::make_unique<Scene>(u"/tmp"_s);
+    auto scene = std::make_unique<EditScene>(u"/tmp"_s);
     scene->edit();
     QVERIFY(scene->strip->hasFocus());
     scene.reset();
@@ -472,7 +430,7 @@ void tst_AddressStripEditing::theStripMayGoWhenEditingEnds()
 {
     QFETCH(const QString, way);
     const FolderTree tree({u"abc"_s});
-    const Scene scene(tree.path());
+    const EditScene scene(tree.path());
     const QPointer<AddressStrip> strip = scene.strip;
     scene.edit();
     // A press first of all closes the list.
@@ -508,7 +466,7 @@ void tst_AddressStripEditing::nothingIsTypedBelowTheEntries_data()
 void tst_AddressStripEditing::nothingIsTypedBelowTheEntries()
 {
     QFETCH(const QString, way);
-    const Scene scene(u"/tmp"_s);
+    const EditScene scene(u"/tmp"_s);
     QGuiApplication::clipboard()->setText(u"pasted"_s);
     if (way == u"keys") {
         scene.type(u"abc"_s);
@@ -535,7 +493,7 @@ void tst_AddressStripEditing::nothingIsTypedBelowTheEntries()
 
 void tst_AddressStripEditing::nothingCanBeUndoneAfterwards()
 {
-    const Scene scene(u"/tmp"_s);
+    const EditScene scene(u"/tmp"_s);
     scene.edit();
     scene.type(u"abc"_s);
     scene.other->setFocus();
@@ -544,123 +502,6 @@ void tst_AddressStripEditing::nothingCanBeUndoneAfterwards()
     scene.edit();
     scene.strip->undo();
     QCOMPARE(scene.strip->text(), u"\\tmp"_s);
-}
-
-void tst_AddressStripEditing::foldersAreOffered_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QStringList>("offers");
-    QTest::newRow("below") << u"%1/"_s << QStringList{u"%1/Abc"_s, u"%1/abd"_s, u"%1/b &c"_s};
-    QTest::newRow("backslashes") << u"%2\\"_s
-                                 << QStringList{u"%2\\Abc"_s, u"%2\\abd"_s, u"%2\\b &c"_s};
-    QTest::newRow("begun") << u"%1/B"_s << QStringList{u"%1/b &c"_s};
-    QTest::newRow("any case") << u"%1/aB"_s << QStringList{u"%1/Abc"_s, u"%1/abd"_s};
-    QTest::newRow("whole") << u"%1/Abc"_s << QStringList{u"%1/Abc/below"_s};
-    QTest::newRow("nothing like it") << u"%1/x"_s << QStringList{};
-    QTest::newRow("missing folder") << u"%1/x/"_s << QStringList{};
-    QTest::newRow("a file") << u"%1/file/"_s << QStringList{};
-    QTest::newRow("no separator") << u"Abc"_s << QStringList{};
-}
-
-void tst_AddressStripEditing::foldersAreOffered()
-{
-    QFETCH(const QString, typed);
-    QFETCH(QStringList, offers);
-    const FolderTree tree({u"Abc/below"_s, u"abd"_s, u"b &c"_s, u".hidden"_s, u"back\\slash"_s});
-    tree.addFile(u"file"_s);
-    const auto filled = [&tree](QString text) {
-        return text.replace(u"%1"_s, tree.path()).replace(u"%2"_s, backslashed(tree.path()));
-    };
-    for (QString &offer : offers)
-        offer = filled(offer);
-    const Scene scene(u"/tmp"_s);
-    QVERIFY(scene.offers().isEmpty());
-    scene.edit();
-    scene.type(filled(typed));
-    QCOMPARE(scene.offers(), offers);
-}
-
-void tst_AddressStripEditing::atMostTwoHundredFoldersAreOffered()
-{
-    QStringList folders;
-    for (int i = 0; i < 300; ++i)
-        folders.append(u"folder%1"_s.arg(i, 3, 10, QChar(u'0')));
-    folders.append(u"last"_s);
-    const FolderTree tree(folders);
-    const Scene scene(u"/tmp"_s);
-    scene.edit();
-    scene.type(tree.path() + u'/');
-    QCOMPARE(scene.offers().size(), 200);
-    scene.type(u"l"_s);
-    QCOMPARE(scene.offers(), QStringList(tree.path(u"last"_s)));
-}
-
-void tst_AddressStripEditing::everyOfferIsGoneTo_data()
-{
-    QTest::addColumn<QString>("separator");
-    QTest::newRow("slash") << u"/"_s;
-    QTest::newRow("backslash") << u"\\"_s;
-}
-
-void tst_AddressStripEditing::everyOfferIsGoneTo()
-{
-    QFETCH(const QString, separator);
-    const QStringList names{u" space "_s, u"a&b"_s, u"c\nd"_s, u"\u05e9"_s};
-    const FolderTree tree(names);
-    const Scene scene(u"/tmp"_s);
-    for (const QString &name : names) {
-        scene.edit();
-        scene.type(tree.path().replace(u'/', separator) + separator);
-        const QStringList offers = scene.offers();
-        QCOMPARE(offers.size(), names.size());
-        for (const QString &offer : offers) {
-            if (offer.endsWith(name))
-                Q_EMIT scene.strip->completer()->activated(offer);
-        }
-        QVERIFY(scene.shows(tree.path(name)));
-    }
-}
-
-void tst_AddressStripEditing::aClickedOfferIsGoneTo()
-{
-    const FolderTree tree({u"abc"_s, u"abd"_s});
-    Scene scene(u"/tmp"_s);
-    scene.edit();
-    scene.type(tree.path() + u"/ab"_s);
-    QVERIFY(scene.list()->isVisible());
-    const QRect row = scene.list()->visualRect(scene.list()->model()->index(1, 0));
-    Input::press(scene.list()->viewport(), row.center());
-    QVERIFY(scene.isEditing());
-    Input::release(scene.list()->viewport(), row.center());
-    QVERIFY(scene.shows(tree.path(u"abd"_s)));
-    QVERIFY(!scene.list()->isVisible());
-    QCOMPARE(scene.ways(), u"b-u"_s);
-}
-
-void tst_AddressStripEditing::anOfferOfTheShownPathShowsTheEntries()
-{
-    const FolderTree tree({u"abc"_s});
-    const Scene scene(tree.path(u"abc"_s));
-    scene.edit();
-    scene.type(tree.path() + u"/a"_s);
-    QVERIFY(scene.list()->isVisible());
-    QTest::keyClick(scene.list(), Qt::Key_Down);
-    QTest::keyClick(scene.list(), Qt::Key_Return);
-    QVERIFY(scene.shows(tree.path(u"abc"_s)));
-    QVERIFY(!scene.list()->isVisible());
-}
-
-void tst_AddressStripEditing::theStripMayGoWhenAnOfferIsClicked()
-{
-    const FolderTree tree({u"abc"_s});
-    const Scene scene(u"/tmp"_s);
-    const QPointer<AddressStrip> strip = scene.strip;
-    scene.edit();
-    scene.type(tree.path() + u'/');
-    connect(strip, &AddressStrip::signalPathChanged, &scene.window, [strip] { delete strip; });
-    const QRect row = scene.list()->visualRect(scene.list()->model()->index(0, 0));
-    Input::click(scene.list()->viewport(), row.center());
-    QVERIFY(!strip);
 }
 
 QTEST_MAIN(tst_AddressStripEditing)
