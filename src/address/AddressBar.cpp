@@ -242,9 +242,6 @@ AddressBar::AddressBar(AddressBarPrivate &d, QWidget *parent) : QFrame(parent), 
 AddressBar::~AddressBar()
 {
     Q_D(AddressBar);
-    // The strip goes after the private object and may say something then.
-    if (d->strip)
-        d->strip->disconnect(this);
     if (!d->tree || d->tree->parent())
         return;
     if (d->tree->isVisible()) // It may be what led here, and goes on when this is done.

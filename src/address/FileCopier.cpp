@@ -220,7 +220,7 @@ bool FileCopier::isComplete(const Path &source, const Path &target,
            });
 }
 
-bool FileCopier::isLeafComplete(const Path &source, const Facts &facts, const Path &target) const
+bool FileCopier::isLeafComplete(const Path &source, const Facts &facts, const Path &target)
 {
     if (facts.kind == Kind::Link)
         return linkText(source) == linkText(target);

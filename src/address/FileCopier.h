@@ -53,9 +53,9 @@ private:
     bool isReplaceable(const Entry &source, const Entry &target) const;
     void note(const Entry &source);
     bool makeCopy(const Entry &source, const Path &copy, Facts *copied);
-    bool putInPlace(const Path &copy, const Path &target, bool overwrite);
+    static bool putInPlace(const Path &copy, const Path &target, bool overwrite);
     bool isComplete(const Path &source, const Path &target, std::vector<Path> *folders) const;
-    bool isLeafComplete(const Path &source, const Facts &facts, const Path &target) const;
+    static bool isLeafComplete(const Path &source, const Facts &facts, const Path &target);
 
     FileProgress &m_progress;
     const Report m_report;

@@ -62,7 +62,7 @@ QStringList localFiles(const QMimeData &data)
 /// The source that a path means; its last part must be a name to give to the copy.
 Path sourcePath(const QString &path)
 {
-    const Path source = nativePath(path);
+    Path source = nativePath(path);
     const QString name = path.section(u'/', -1, -1, QString::SectionSkipEmpty);
     if (path.isEmpty() || name == "."_L1 || name == ".."_L1)
         return NativeFiles::fromText(QFileInfo(path).canonicalFilePath());
@@ -85,7 +85,7 @@ QString folderOf(const QString &path)
 
 bool isCutData(const QMimeData *data)
 {
-    return data && data->data(MarkerType) == "cut"_ba;
+    return data != nullptr && data->data(MarkerType) == "cut"_ba;
 }
 
 /// Runs \a work with a progress dialog over the widget \a parent. Returns false without doing

@@ -68,7 +68,7 @@ public:
     QString newFolder();
 
     /// Shows why \a source cannot be copied to \a target; \a code is a FileCheck code.
-    void showCopyError(const QString &source, const QString &target, int code);
+    static void showCopyError(const QString &source, const QString &target, int code);
 
     /// Whether an operation of any object is at work.
     static bool isRunning();

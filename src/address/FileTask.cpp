@@ -56,12 +56,12 @@ void FileTask::ask(const std::function<void()> &question)
     Lock lock(m_mutex);
     m_question = &question;
     m_changed.notify_all();
-    m_changed.wait(lock, [this] { return !m_question; });
+    m_changed.wait(lock, [this] { return m_question == nullptr; });
 }
 
 void FileTask::wait(Lock &lock)
 {
-    const auto isAwaited = [this] { return m_isDone || m_question; };
+    const auto isAwaited = [this] { return m_isDone || m_question != nullptr; };
     const qint64 left = DialogDelay - m_clock.elapsed();
     if (!m_dialog && left > 0) {
         m_changed.wait_for(lock, std::chrono::milliseconds(left), isAwaited);

@@ -200,11 +200,8 @@ bool take(const Path &path)
 {
     const Path place = resolved(path);
     const std::vector<Trash> trashes = trashesFor(place);
-    for (const Trash &trash : trashes) {
-        if (takeTo(trash, place))
-            return true;
-    }
-    return false;
+    return std::any_of(trashes.cbegin(), trashes.cend(),
+                       [&place](const Trash &trash) { return takeTo(trash, place); });
 }
 
 bool isInside(const Path &path)

@@ -13,7 +13,7 @@ bool take(const NativeFiles::Path &path)
     return QFile::moveToTrash(NativeFiles::toText(path)) && !NativeFiles::factsOf(path).exists();
 }
 
-bool isInside(const NativeFiles::Path &)
+bool isInside(const NativeFiles::Path & /*path*/)
 {
     // The system refuses to put the trash into itself.
     return false;

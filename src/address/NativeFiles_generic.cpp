@@ -10,7 +10,6 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <memory>
 #include <system_error>
 
 namespace VornFrame::NativeFiles {
@@ -53,11 +52,11 @@ Identity identityFrom(const Path &path)
 
 bool copyData(QFile &source, QFile &target, FileProgress &progress)
 {
-    const auto buffer = std::make_unique<char[]>(size_t(Block));
+    std::vector<char> buffer(static_cast<std::size_t>(Block));
     const qint64 size = source.size();
     for (qint64 done = 0; done < size;) {
-        const qint64 length = progress.isCancelled() ? -1 : source.read(buffer.get(), Block);
-        if (length <= 0 || target.write(buffer.get(), length) != length)
+        const qint64 length = progress.isCancelled() ? -1 : source.read(buffer.data(), Block);
+        if (length <= 0 || target.write(buffer.data(), length) != length)
             return false;
         done += length;
         progress.add(length);
@@ -227,7 +226,7 @@ bool canSyncFileSystems()
     return false;
 }
 
-bool syncFileSystem(const Path &)
+bool syncFileSystem(const Path & /*folder*/)
 {
     return true;
 }

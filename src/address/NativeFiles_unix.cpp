@@ -128,7 +128,7 @@ private:
 #ifdef Q_OS_LINUX
         // Within the kernel; some file systems share the data between both files. Where it does not
         // work, or says that there is nothing, reading and writing finds out why.
-        constexpr off_t Chunk = 16 * 1024 * 1024;
+        constexpr off_t Chunk = off_t(16) * 1024 * 1024;
         off_t written = begin;
         while (position < end && !m_progress.isCancelled()) {
             const auto length = size_t(std::min(Chunk, end - position));
@@ -163,14 +163,13 @@ private:
     {
         if (m_progress.isCancelled())
             return -1;
-        if (!m_buffer)
-            m_buffer = std::make_unique<char[]>(Block);
+        m_buffer.resize(Block);
         const size_t wanted = std::min(size_t(most), Block);
         const ssize_t length = retried(
-            [&] { return ::pread(m_from, m_buffer.get(), wanted, position); });
+            [&] { return ::pread(m_from, m_buffer.data(), wanted, position); });
         for (ssize_t written = 0; written < length;) {
             const ssize_t result = retried([&] {
-                return ::pwrite(m_to, m_buffer.get() + written, size_t(length - written),
+                return ::pwrite(m_to, m_buffer.data() + written, size_t(length - written),
                                 position + written);
             });
             if (result <= 0)
@@ -186,7 +185,7 @@ private:
     const int m_from;
     const int m_to;
     FileProgress &m_progress;
-    std::unique_ptr<char[]> m_buffer;
+    std::vector<char> m_buffer;
 };
 
 /// Fills the new file \a target; what it leaves behind when it fails is for the caller to remove.

@@ -6,7 +6,6 @@
 #include "core/Pixmaps.h"
 #include "core/ResourcePaths.h"
 
-#include <QPaintEngine>
 #include <QPainter>
 #include <QStyle>
 
@@ -16,13 +15,6 @@ namespace {
 
 /// Lines of 1 px are crisp when their middle is in the middle of a pixel.
 constexpr QPointF HalfPixel(0.5, 0.5);
-
-/// The pixel ratio of what is painted on in the end: a widget may be rendered into an image that
-/// has another one than itself.
-qreal deviceRatio(const QPainter &painter)
-{
-    return painter.paintEngine()->paintDevice()->devicePixelRatioF();
-}
 
 } // namespace
 
@@ -150,7 +142,8 @@ void RibbonButtonPrivate::drawIcon(QPainter &painter) const
     // An icon with a picture of its own for the checked state shows it.
     const QIcon::State state = q_ptr->isChecked() ? QIcon::On : QIcon::Off;
     QRect rect = iconRect();
-    const QPixmap pixmap = q_ptr->icon().pixmap(rect.size(), deviceRatio(painter), mode, state);
+    const QPixmap pixmap = q_ptr->icon().pixmap(rect.size(), Pixmaps::deviceRatio(painter), mode,
+                                                state);
     // Icons are never enlarged: a smaller one stands in the middle.
     const QPoint middle = rect.center();
     rect.setSize(pixmap.deviceIndependentSize().toSize());
@@ -179,7 +172,7 @@ void RibbonButtonPrivate::drawArrow(QPainter &painter) const
         return;
     const QIcon::Mode mode = q_ptr->isEnabled() ? QIcon::Normal : QIcon::Disabled;
     painter.drawPixmap(arrowRect(), Pixmaps::rendered(ResourcePaths::Arrow, arrowSize,
-                                                      deviceRatio(painter), mode));
+                                                      Pixmaps::deviceRatio(painter), mode));
 }
 
 } // namespace VornFrame

@@ -49,7 +49,7 @@ public:
     {
         m_entry.setLayoutDirection(look.direction);
         if (look.kind != Kind::Root)
-            m_entry.setName(Name);
+            m_entry.setName(m_name);
         const QString folder = look.kind == Kind::Leaf ? u"parent/child"_s : u"parent"_s;
         m_entry.setPath(look.kind == Kind::Root ? QString() : m_tree.path(folder));
         if (look.over != Over::Nothing) {
@@ -68,7 +68,7 @@ public:
             rect.moveLeft(m_entry.width() - rect.x() - rect.width());
         return rect;
     }
-    int nameWidth() const { return m_entry.fontMetrics().horizontalAdvance(Name); }
+    int nameWidth() const { return m_entry.fontMetrics().horizontalAdvance(m_name); }
     int separator() const { return 4 + 6 + nameWidth(); }
     QRect whole() const { return m_entry.rect(); }
     QRect name() const { return mirrored({4, 0, nameWidth(), 22}); }
@@ -99,7 +99,7 @@ public:
     AddressEntry *entry() { return &m_entry; }
 
 private:
-    static inline const QString Name = u"Folder"_s;
+    const QString m_name = u"Folder"_s;
     const Look m_look;
     const FolderTree m_tree{{u"parent/child"_s}};
     AddressEntry m_entry{nullptr};

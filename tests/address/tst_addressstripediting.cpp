@@ -48,6 +48,7 @@ private Q_SLOTS:
 
     void everyWayOutShowsTheEntries_data();
     void everyWayOutShowsTheEntries();
+    void aPathWithoutSeparatorsIsShownAgain();
     void editingAfterGoingBackAppendsThePathAgain();
     void editingWithAnEmptyHistoryRecordsThePath();
     void pressesOnTheStripKeepTheText();
@@ -122,6 +123,11 @@ void tst_AddressStripEditing::editTextShowsTheText()
 {
     const EditScene scene(u"/a"_s);
     scene.strip->editText(u"some/text"_s);
+    // The entries that were there are on their way out.
+    const auto leaving = scene.strip->findChildren<AddressEntry *>();
+    QCOMPARE(leaving.size(), 2);
+    for (const AddressEntry *entry : leaving)
+        QVERIFY(!entry->isVisible());
     QVERIFY(scene.isEditing());
     QVERIFY(scene.strip->hasFocus());
     QCOMPARE(scene.strip->text(), u"some/text"_s);
@@ -353,6 +359,18 @@ void tst_AddressStripEditing::everyWayOutShowsTheEntries()
     QTRY_VERIFY(scene.shows(shown));
     QCOMPARE(scene.paths.size(), 1);
     QCOMPARE(scene.paths.constFirst().constFirst().toString(), shown);
+}
+
+void tst_AddressStripEditing::aPathWithoutSeparatorsIsShownAgain()
+{
+    // It reads the same while it is edited.
+    const EditScene scene(u"relative"_s);
+    scene.edit();
+    scene.strip->setPath(u"relative"_s);
+    QVERIFY(scene.shows(u"relative"_s));
+    scene.edit();
+    scene.other->setFocus();
+    QVERIFY(scene.shows(u"relative"_s));
 }
 
 void tst_AddressStripEditing::editingAfterGoingBackAppendsThePathAgain()

@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <array>
 #include <filesystem>
 #include <memory>
 
@@ -200,8 +201,8 @@ void TestFileCopier::permissionsAndTimesAreKept()
     if (mode == 0 && ::geteuid() != 0)
         QSKIP("only root may read a file that allows nothing");
     m_files->write(u"a"_s, "data");
-    const timespec times[2] = {{0, UTIME_NOW}, {time_t(seconds), long(nanoseconds)}};
-    QCOMPARE(::utimensat(AT_FDCWD, native(u"a"_s).c_str(), times, 0), 0);
+    const std::array<timespec, 2> times{{{0, UTIME_NOW}, {time_t(seconds), long(nanoseconds)}}};
+    QCOMPARE(::utimensat(AT_FDCWD, native(u"a"_s).c_str(), times.data(), 0), 0);
     QCOMPARE(::chmod(native(u"a"_s).c_str(), mode_t(mode)), 0);
     copy(u"a"_s, u"b"_s);
     const NativeFiles::Facts facts = NativeFiles::factsOf(native(u"b"_s));
@@ -212,9 +213,9 @@ void TestFileCopier::permissionsAndTimesAreKept()
 void TestFileCopier::folderKeepsItsPermissionsAndTime()
 {
     m_files->write(u"from/folder/a"_s, "data");
-    const timespec times[2] = {{0, UTIME_OMIT}, {1000, 5}};
+    const std::array<timespec, 2> times{{{0, UTIME_OMIT}, {1000, 5}}};
     QCOMPARE(::chmod(native(u"from/folder"_s).c_str(), 0555), 0);
-    QCOMPARE(::utimensat(AT_FDCWD, native(u"from/folder"_s).c_str(), times, 0), 0);
+    QCOMPARE(::utimensat(AT_FDCWD, native(u"from/folder"_s).c_str(), times.data(), 0), 0);
     copy(u"from"_s, u"to"_s);
     const NativeFiles::Facts facts = NativeFiles::factsOf(native(u"to/folder"_s));
     QCOMPARE(facts.mode, 0555U);
@@ -418,16 +419,16 @@ void TestFileCopier::arrivalIsDoubted()
     } else if (what == u"source file grown") {
         m_files->write(u"from/sub/a"_s, "data and more");
     } else if (what == u"source file touched") {
-        const timespec times[2] = {{0, UTIME_OMIT}, {5, 5}};
-        QCOMPARE(::utimensat(AT_FDCWD, native(u"from/sub/a"_s).c_str(), times, 0), 0);
+        const std::array<timespec, 2> times{{{0, UTIME_OMIT}, {5, 5}}};
+        QCOMPARE(::utimensat(AT_FDCWD, native(u"from/sub/a"_s).c_str(), times.data(), 0), 0);
     } else if (what == u"source file replaced") {
         m_files->write(u"from/sub/b"_s, "DATA");
         const NativeFiles::Facts facts = NativeFiles::factsOf(native(u"from/sub/a"_s));
         std::filesystem::rename(native(u"from/sub/b"_s), native(u"from/sub/a"_s));
-        const timespec times[2] = {
-            {0, UTIME_OMIT},
-            {time_t(facts.modified / 1'000'000'000), long(facts.modified % 1'000'000'000)}};
-        QCOMPARE(::utimensat(AT_FDCWD, native(u"from/sub/a"_s).c_str(), times, 0), 0);
+        const std::array<timespec, 2> times{
+            {{0, UTIME_OMIT},
+             {time_t(facts.modified / 1'000'000'000), long(facts.modified % 1'000'000'000)}}};
+        QCOMPARE(::utimensat(AT_FDCWD, native(u"from/sub/a"_s).c_str(), times.data(), 0), 0);
     } else if (what == u"source link changed") {
         change(u"from/link"_s);
         m_files->makeLink(u"from/link"_s, u"else"_s);

@@ -49,7 +49,7 @@ void putUrls(const QStringList &paths, const QByteArray &marker = {})
 bool clipboardHasUrls()
 {
     const QMimeData *data = QGuiApplication::clipboard()->mimeData();
-    return data && data->hasUrls();
+    return data != nullptr && data->hasUrls();
 }
 
 QStringList buttonTexts(const QMessageBox *box)
