@@ -68,7 +68,7 @@ public:
     void clearSuffixs();
 
     /// The file tree of the bar, made on the first call. It shows the folder of the bar and leads
-    /// the bar when the user goes to another one.
+    /// the bar when the user goes to another one. Its model is a QFileSystemModel.
     ///
     /// It has no parent until the host places it somewhere, which is then its owner; a tree that
     /// was never placed goes with the bar. A tree that was deleted is made anew.
@@ -84,7 +84,8 @@ public:
 
 Q_SIGNALS:
     /// The shown path was made anew, be it by the user or the host. It can be the same as before:
-    /// when the user gave up typing another one.
+    /// when the user gave up typing another one. The tree goes there too, but slots that were
+    /// connected before it was made are called before.
     void signalPathChanged(const QString &path);
 
     /// The user opened a file of a suffix that the host has named.

@@ -73,9 +73,25 @@ void AddressEntryPrivate::buildMenu()
     q_ptr->setMenu(menu);
     q_ptr->setPopupMode(showsDrives ? QToolButton::InstantPopup : QToolButton::MenuButtonPopup);
     menu->installEventFilter(q_ptr);
+    QObject::connect(menu, &QMenu::aboutToShow, q_ptr, [this] { shortenNames(); });
     QObject::connect(menu, &QMenu::aboutToHide, q_ptr, [this] { setHovered(false); });
     QObject::connect(menu, &QMenu::triggered, q_ptr,
                      [this](const QAction *action) { choose(action); });
+}
+
+/// One long name would make the menu wider than the screen and push all others out of sight.
+void AddressEntryPrivate::shortenNames() const
+{
+    constexpr qsizetype LongName = 40;
+    constexpr int MaxWidth = 400; // px
+    const QMenu *menu = q_ptr->menu();
+    const QFontMetrics metrics = menu->fontMetrics();
+    const QList<QAction *> actions = menu->actions();
+    for (QAction *action : actions) {
+        const QString name = AddressPaths::singleLine(action->data().toString());
+        if (name.size() > LongName && metrics.horizontalAdvance(name) > MaxWidth)
+            action->setText(menuText(metrics.elidedText(name, Qt::ElideMiddle, MaxWidth)));
+    }
 }
 
 void AddressEntryPrivate::choose(const QAction *action)

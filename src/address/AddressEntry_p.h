@@ -26,6 +26,7 @@ public:
     void init();
 
     void buildMenu();
+    void shortenNames() const;
     void choose(const QAction *action);
     void placeMenu(QMenu *menu) const;
 

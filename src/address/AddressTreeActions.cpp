@@ -173,6 +173,8 @@ void AddressTreePrivate::noteDoubleClick(const QModelIndex &index)
 void AddressTreePrivate::openIndex(const QModelIndex &index)
 {
     const QFileInfo file(model->filePath(index));
+    if (file.isDir() && file.filePath().contains(u'\\'))
+        return; // where a path is shown, that is a separator, and would lead elsewhere
     if (file.isDir())
         Q_EMIT q_ptr->signalPathChanged(file.filePath());
     else if (suffixes.contains(file.suffix()))
@@ -188,6 +190,7 @@ void AddressTreePrivate::askAboutOpening()
         QMessageBox::Information, AddressTree::tr("Infomation"), // spelt so on purpose
         AddressTree::tr("Open the selected file with the external default program?"),
         QMessageBox::Ok | QMessageBox::Cancel, q_ptr));
+    box->setTextFormat(Qt::PlainText);
     box->setDefaultButton(QMessageBox::Cancel);
     box->setEscapeButton(QMessageBox::Cancel);
     const int answer = box->exec();

@@ -101,6 +101,7 @@ private Q_SLOTS:
     void pressingTheArrowOpensTheMenuUnderIt();
     void pressingTheRootOpensItsMenu();
     void menusStayOnTheScreen();
+    void longNamesLeaveTheMenuNarrow();
     void pressesReleasedElsewhereDoNothing();
     void otherButtonsDoNothing();
     void releasesStayWithTheEntry();
@@ -408,6 +409,26 @@ void tst_AddressEntry::menusStayOnTheScreen()
     QVERIFY(driver.hasRun());
     QVERIFY(screen.contains(geometry));
     Input::release(scene.entry, scene.onArrow());
+}
+
+void tst_AddressEntry::longNamesLeaveTheMenuNarrow()
+{
+    const QString longName = u"a & "_s + QString(250, u'W');
+    const FolderTree tree({u"parent/short"_s, u"parent/"_s + longName});
+    Scene scene{tree.path(u"parent"_s)};
+    QVERIFY(Input::show(&scene.window));
+    PopupDriver driver([](QMenu *menu) {
+        QVERIFY(menu->width() < 500);
+        const QString shown = menu->actions().constFirst()->text();
+        QVERIFY(shown.startsWith(u"a && W"_s));
+        QVERIFY(shown.contains(QChar(0x2026)));
+        QCOMPARE(menu->actions().constLast()->text(), u"short"_s);
+    });
+    Input::press(scene.entry, scene.onArrow());
+    QVERIFY(driver.hasRun());
+    Input::release(scene.entry, scene.onArrow());
+    scene.entry->menu()->actions().constFirst()->trigger();
+    QCOMPARE(clickedPath(scene.clicks), tree.path(u"parent/"_s + longName));
 }
 
 void tst_AddressEntry::pressesReleasedElsewhereDoNothing()

@@ -44,6 +44,7 @@ private Q_SLOTS:
     void pasteFollowsTheClipboard();
 
     void doubleClickOnAFolderGoesThere();
+    void doubleClickOnAFolderWithABackslashStays();
     void doubleClickOnAKnownFileHandsItToTheHost();
     void suffixesAreCompared_data();
     void suffixesAreCompared();
@@ -333,6 +334,20 @@ void tst_AddressTree::doubleClickOnAFolderGoesThere()
     QCOMPARE(folder.constFirst(), QVariantList{path(u"docs"_s)});
     QCOMPARE(file.size(), 0);
     QVERIFY(!tree->isExpanded(index(u"docs"_s)));
+}
+
+void tst_AddressTree::doubleClickOnAFolderWithABackslashStays()
+{
+    const PopupBan noBox;
+    const QString name = u"back\\slash"_s;
+    QVERIFY(showTree());
+    QVERIFY(QDir(path(QString())).mkdir(name));
+    QTRY_VERIFY(tree->visualRect(index(name)).isValid());
+    QSignalSpy folder(tree.get(), &VornFrame::AddressTree::signalPathChanged);
+
+    doubleClick(name);
+
+    QCOMPARE(folder.size(), 0);
 }
 
 void tst_AddressTree::doubleClickOnAKnownFileHandsItToTheHost()
