@@ -9,7 +9,6 @@
 #include <QLocale>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QWindow>
 
 #include <chrono>
 #include <thread>
@@ -48,7 +47,7 @@ void FileTask::run(const std::function<void()> &work)
         }
     }
     thread.join();
-    m_dialog.reset();
+    delete m_dialog;
 }
 
 void FileTask::ask(const std::function<void()> &question)
@@ -106,42 +105,32 @@ void FileTask::showProgress()
 
 void FileTask::makeDialog()
 {
-    // No child of the window, which may be deleted while the dialog is in use.
-    m_dialog = std::make_unique<QProgressDialog>();
+    m_dialog = new QProgressDialog(QString(), tr("Cancel"), 0, 0, m_window);
     m_dialog->setWindowTitle(tr("Files"));
-    auto *button = new QPushButton(tr("Cancel"), m_dialog.get());
+    // Not a button of ours: with another one Qt makes a second shortcut for Escape, and neither works.
+    auto *button = m_dialog->findChild<QPushButton *>();
     button->setAutoDefault(false);
-    m_dialog->setCancelButton(button);
     // It stays, and keeps the rest of the application from the user, until the work has noticed.
-    QObject::disconnect(m_dialog.get(), &QProgressDialog::canceled, m_dialog.get(),
-                        &QProgressDialog::cancel);
+    QObject::disconnect(m_dialog, &QProgressDialog::canceled, m_dialog, &QProgressDialog::cancel);
     const auto cancel = [this, button] {
         m_progress.cancel();
         button->setEnabled(false);
     };
-    QObject::connect(m_dialog.get(), &QProgressDialog::canceled, button, cancel);
-    QObject::connect(m_dialog.get(), &QProgressDialog::rejected, button, cancel);
+    QObject::connect(m_dialog, &QProgressDialog::canceled, button, cancel);
+    QObject::connect(m_dialog, &QProgressDialog::rejected, button, cancel);
     m_dialog->setWindowModality(Qt::ApplicationModal);
     m_dialog->setAutoClose(false);
     m_dialog->setAutoReset(false);
     // A name of a file is no markup.
-    auto *label = new QLabel(m_dialog.get());
+    auto *label = new QLabel(m_dialog);
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     label->setMinimumWidth(LabelWidth);
     m_dialog->setLabel(label);
-    // Set by itself: QProgressDialog::setValue() would handle events whenever it likes.
-    m_bar = new QProgressBar(m_dialog.get());
+    // Set by itself: QProgressDialog::setValue() handles events, in which the dialog may die.
+    m_bar = new QProgressBar(m_dialog);
     m_bar->setAccessibleName(tr("Progress"));
     m_dialog->setBar(m_bar);
-    if (m_window && m_window->windowHandle()) {
-        m_dialog->winId();
-        m_dialog->windowHandle()->setTransientParent(m_window->windowHandle());
-        m_dialog->adjustSize();
-        QRect place = m_dialog->rect();
-        place.moveCenter(m_window->frameGeometry().center());
-        m_dialog->move(place.topLeft());
-    }
     m_dialog->show();
 }
 

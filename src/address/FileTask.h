@@ -12,7 +12,6 @@
 
 #include <condition_variable>
 #include <functional>
-#include <memory>
 #include <mutex>
 
 class QProgressBar;
@@ -50,7 +49,8 @@ private:
 
     const QPointer<QWidget> m_window;
     FileProgress m_progress;
-    std::unique_ptr<QProgressDialog> m_dialog; ///< null until the work has taken long
+    /// Null until the work has taken long. It dies with the window, if that is deleted meanwhile.
+    QPointer<QProgressDialog> m_dialog;
     QProgressBar *m_bar = nullptr; ///< belongs to the dialog
     QElapsedTimer m_clock;
     std::mutex m_mutex;

@@ -5,6 +5,7 @@
 // while others change the files. No byte may be lost, whatever happens.
 
 #include "address/FaultScene.h"
+#include "support/QuietMacros.h"
 
 #include <QRegularExpression>
 #include <QTemporaryDir>

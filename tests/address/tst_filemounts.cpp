@@ -5,6 +5,7 @@
 // would need, and with a trash that does not work.
 
 #include "address/FaultScene.h"
+#include "support/QuietMacros.h"
 
 #include <QTemporaryDir>
 #include <QTest>

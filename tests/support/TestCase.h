@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "support/QuietMacros.h"
+
 #include <QFont>
 #include <QLocale>
 #include <QObject>
@@ -10,11 +12,6 @@
 #include <QString>
 #include <QTest>
 #include <QWidget>
-
-#if defined(__GNUC__) && QT_VERSION >= QT_VERSION_CHECK(6, 7, 0)
-// The QTRY_ macros of Qt 6.8 make an int of a long, in the midst of the code that uses them.
-#    pragma GCC diagnostic ignored "-Wconversion"
-#endif
 
 /// The base of every test class of widgets.
 ///
