@@ -177,8 +177,9 @@ void AddressStrip::editText(const QString &text)
 
 bool AddressStrip::eventFilter(QObject *watched, QEvent *event)
 {
-    // This sees every event of the application.
-    if (event->type() != QEvent::MouseButtonPress)
+    // This sees every event of the application. A second press soon after the one that closed the
+    // list of completions is known as a double click only.
+    if (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::MouseButtonDblClick)
         return false;
     Q_D(AddressStrip);
     if (!d->isEditing() || !d->isOutside(watched))

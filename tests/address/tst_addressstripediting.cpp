@@ -291,6 +291,7 @@ void tst_AddressStripEditing::everyWayOutShowsTheEntries_data()
     QTest::newRow("focus elsewhere") << u"focus"_s << old;
     QTest::newRow("focus elsewhere with the list open") << u"focus from list"_s << old;
     QTest::newRow("press elsewhere with the list open") << u"press from list"_s << old;
+    QTest::newRow("double click elsewhere with the list open") << u"double click from list"_s << old;
     QTest::newRow("tabulator") << u"tab"_s << old;
     QTest::newRow("press elsewhere") << u"press"_s << old;
     QTest::newRow("press on the window") << u"press window"_s << old;
@@ -332,6 +333,13 @@ void tst_AddressStripEditing::everyWayOutShowsTheEntries()
              Input::click(scene.other);
              QVERIFY(!scene.list()->isVisible());
              Input::click(scene.other);
+         }},
+        {u"double click from list"_s,
+         [&scene] {
+             scene.type(u"/"_s);
+             QVERIFY(scene.list()->isVisible());
+             scene.other->setFocusPolicy(Qt::NoFocus);
+             Input::doubleClick(scene.other);
          }},
         {u"tab"_s, [&scene] { QTest::keyClick(scene.strip, Qt::Key_Tab); }},
         {u"press"_s, [&scene] { Input::click(scene.other); }},
