@@ -110,8 +110,12 @@ void AddressStripPrivate::rebuild(qsizetype newIndex)
 {
     index = newIndex;
     const QString newPath = path;
+    const QPointer<AddressStrip> guard(q_ptr);
     endEditing();
     q_ptr->clearFocus();
+    // Whoever hears that the focus has gone may have gone on to another path.
+    if (!guard || path != newPath || index != newIndex)
+        return;
     q_ptr->setText(QString());
     clearLayout();
     addFolderPicture();
@@ -121,7 +125,6 @@ void AddressStripPrivate::rebuild(qsizetype newIndex)
         addEntry(part.name, part.path);
     arrange();
 
-    const QPointer<AddressStrip> guard(q_ptr);
     updateActions();
     if (guard)
         Q_EMIT q_ptr->signalPathChanged(newPath);

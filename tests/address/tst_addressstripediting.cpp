@@ -49,6 +49,7 @@ private Q_SLOTS:
     void everyWayOutShowsTheEntries_data();
     void everyWayOutShowsTheEntries();
     void aPathWithoutSeparatorsIsShownAgain();
+    void whoHearsOfTheFocusMayGoElsewhere();
     void editingAfterGoingBackAppendsThePathAgain();
     void editingWithAnEmptyHistoryRecordsThePath();
     void pressesOnTheStripKeepTheText();
@@ -379,6 +380,24 @@ void tst_AddressStripEditing::aPathWithoutSeparatorsIsShownAgain()
     scene.edit();
     scene.other->setFocus();
     QVERIFY(scene.shows(u"relative"_s));
+}
+
+void tst_AddressStripEditing::whoHearsOfTheFocusMayGoElsewhere()
+{
+    const FolderTree tree({u"typed"_s, u"other"_s});
+    EditScene scene(tree.path());
+    scene.strip->editText(tree.path(u"typed"_s));
+    connect(qApp, &QApplication::focusChanged, scene.strip,
+            [&scene, &tree](const QWidget *before) {
+                if (before == scene.strip)
+                    scene.strip->setPath(tree.path(u"other"_s));
+            });
+    scene.commit();
+    QVERIFY(scene.shows(tree.path(u"other"_s)));
+    QCOMPARE(scene.paths.size(), 1);
+    QCOMPARE(scene.paths.constFirst().constFirst().toString(), tree.path(u"other"_s));
+    scene.strip->backward();
+    QVERIFY(scene.shows(tree.path(u"typed"_s)));
 }
 
 void tst_AddressStripEditing::editingAfterGoingBackAppendsThePathAgain()
