@@ -9,6 +9,7 @@
 
 #include "core/SharedIcons.h"
 
+#include <QGuiApplication>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPointer>
@@ -110,7 +111,9 @@ void AddressEntryPrivate::placeMenu(QMenu *menu) const
     const QRect arrow = arrowPart();
     const int x = q_ptr->isRightToLeft() ? arrow.right() + 1 - menu->width() : arrow.left();
     QPoint position = q_ptr->mapToGlobal(QPoint(x, q_ptr->height()));
-    const QRect screen = q_ptr->screen()->availableGeometry();
+    // A window can lie on two screens; its own is the one where most of it is.
+    const QScreen *ofArrow = QGuiApplication::screenAt(q_ptr->mapToGlobal(arrow.center()));
+    const QRect screen = (ofArrow ? ofArrow : q_ptr->screen())->availableGeometry();
     position.rx() = std::max(screen.left(),
                              std::min(position.x(), screen.right() + 1 - menu->width()));
     position.ry() = std::max(screen.top(),

@@ -292,7 +292,8 @@ void tst_AddressStripEditing::everyWayOutShowsTheEntries_data()
     QTest::newRow("focus elsewhere") << u"focus"_s << old;
     QTest::newRow("focus elsewhere with the list open") << u"focus from list"_s << old;
     QTest::newRow("press elsewhere with the list open") << u"press from list"_s << old;
-    QTest::newRow("double click elsewhere with the list open") << u"double click from list"_s << old;
+    QTest::newRow("double click elsewhere with the list open")
+        << u"double click from list"_s << old;
     QTest::newRow("tabulator") << u"tab"_s << old;
     QTest::newRow("press elsewhere") << u"press"_s << old;
     QTest::newRow("press on the window") << u"press window"_s << old;
@@ -387,11 +388,10 @@ void tst_AddressStripEditing::whoHearsOfTheFocusMayGoElsewhere()
     const FolderTree tree({u"typed"_s, u"other"_s});
     EditScene scene(tree.path());
     scene.strip->editText(tree.path(u"typed"_s));
-    connect(qApp, &QApplication::focusChanged, scene.strip,
-            [&scene, &tree](const QWidget *before) {
-                if (before == scene.strip)
-                    scene.strip->setPath(tree.path(u"other"_s));
-            });
+    connect(qApp, &QApplication::focusChanged, scene.strip, [&scene, &tree](const QWidget *before) {
+        if (before == scene.strip)
+            scene.strip->setPath(tree.path(u"other"_s));
+    });
     scene.commit();
     QVERIFY(scene.shows(tree.path(u"other"_s)));
     QCOMPARE(scene.paths.size(), 1);
