@@ -93,9 +93,8 @@ QString child(const QString &folder, const QString &name)
 
 QString driveName(const QString &path)
 {
-    return path.section(Separator, 0, 0, QString::SectionSkipEmpty).isEmpty()
-               ? QString(Separator)
-               : path.section(Separator, 0, 0, QString::SectionSkipEmpty);
+    const QString name = path.section(Separator, 0, 0, QString::SectionSkipEmpty);
+    return name.isEmpty() ? QString(Separator) : name;
 }
 
 QStringList typed(const QString &text)
