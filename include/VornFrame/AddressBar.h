@@ -41,8 +41,9 @@ public:
     QString path() const;
 
     /// Goes to \a path and records it in the history, without asking whether there is such a
-    /// folder. Backslashes become "/", and separators at its end are dropped. An empty path, and
-    /// the one that is shown, are ignored; else signalPathChanged() follows.
+    /// folder. Backslashes become "/", and separators at its end are dropped. A text that the user
+    /// is typing is given up. An empty path is ignored, and so is the one that is shown, unless the
+    /// user is typing; else signalPathChanged() follows.
     void setPath(const QString &path);
 
     /// Forgets the history, then goes to \a path as setPath(). If that is shown already, the

@@ -28,8 +28,8 @@ public:
     /// The path that is shown, empty before the first one; with backslashes while it is edited.
     QString path() const;
 
-    /// Goes to \a path and records it in the history. Empty, or the path that is shown already, is
-    /// ignored.
+    /// Goes to \a path and records it in the history; the text that is being edited is given up.
+    /// An empty path is ignored, and so is the one that is shown already, unless it is edited.
     void setPath(const QString &path);
 
     /// Forgets the history, then goes to \a path. Where that is shown already, the history stays
@@ -56,7 +56,7 @@ Q_SIGNALS:
     void signalActionsEnabled(bool backward, bool forward, bool dirup);
 
 public Q_SLOTS:
-    /// Goes to \a path as setPath(); the text that is being edited is given up in any case.
+    /// Goes to \a path as setPath(), for the file tree.
     void slotPathChanged(const QString &path);
 
 protected:
