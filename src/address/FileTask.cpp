@@ -98,6 +98,9 @@ void FileTask::showProgress()
             : tr("%1 of %2").arg(locale.formattedDataSize(done), locale.formattedDataSize(total));
     m_dialog->setLabelText(metrics.elidedText(name, Qt::ElideMiddle, LabelWidth).simplified()
                            + QLatin1Char('\n') + bytes);
+    // The window manager can close it.
+    if (!m_dialog->isVisible())
+        m_dialog->show();
     m_bar->setMaximum(total == 0 ? 0 : ProgressSteps);
     m_bar->setValue(total == 0 ? 0 : int(double(done) / double(total) * ProgressSteps));
     QCoreApplication::processEvents();
@@ -111,7 +114,8 @@ void FileTask::makeDialog()
     auto *button = m_dialog->findChild<QPushButton *>();
     button->setAutoDefault(false);
     // It stays, and keeps the rest of the application from the user, until the work has noticed.
-    QObject::disconnect(m_dialog, &QProgressDialog::canceled, m_dialog, &QProgressDialog::cancel);
+    // Whatever the connection is: Qt makes it by name, which that by function does not undo.
+    QObject::disconnect(m_dialog, &QProgressDialog::canceled, m_dialog, nullptr);
     const auto cancel = [this, button] {
         m_progress.cancel();
         button->setEnabled(false);

@@ -109,6 +109,18 @@ void press(const QWidget *window, const QString &button)
     QFAIL("there is no such button");
 }
 
+void cancelBy(const QString &how, QProgressDialog *dialog)
+{
+    // A second one would make both ambiguous, and the key of a real keyboard would do nothing.
+    QCOMPARE(dialog->findChildren<QShortcut *>().size(), 1);
+    if (how == "button"_L1)
+        press(dialog, u"Cancel"_s);
+    else if (how == "Escape"_L1)
+        QTest::keyClick(dialog->windowHandle(), Qt::Key_Escape);
+    else
+        dialog->close();
+}
+
 /// Without "." and "..".
 int entriesIn(const QString &folder)
 {
@@ -160,6 +172,8 @@ private Q_SLOTS:
     void nameIsPlainText();
     void cancelReachesTheWork_data();
     void cancelReachesTheWork();
+    void cancelledDialogStaysUntilTheWorkIsOver_data() { cancelReachesTheWork_data(); }
+    void cancelledDialogStaysUntilTheWorkIsOver();
     void windowDiesMeanwhile_data();
     void windowDiesMeanwhile();
     void questionComesWhileTheDialogIsShown();
@@ -341,19 +355,34 @@ void tst_FileTask::cancelReachesTheWork()
     QFETCH(const QString, how);
     FileTask task(nullptr);
     Work work(task);
-    const WhileProgress progress([how](QProgressDialog *dialog, int) {
-        // A second one would make both ambiguous, and the key of a real keyboard would do nothing.
-        QCOMPARE(dialog->findChildren<QShortcut *>().size(), 1);
-        if (how == "button"_L1)
-            press(dialog, u"Cancel"_s);
-        else if (how == "Escape"_L1)
-            QTest::keyClick(dialog->windowHandle(), Qt::Key_Escape); // as from the keyboard
-        else
-            dialog->close();
-    });
+    const WhileProgress progress(
+        [how](QProgressDialog *dialog, int) { cancelBy(how, dialog); });
     task.run(work.run);
     QVERIFY(task.progress().isCancelled());
     QVERIFY(!work.isOver);
+}
+
+/// What cannot be broken off goes on, and the user must not change files meanwhile.
+void tst_FileTask::cancelledDialogStaysUntilTheWorkIsOver()
+{
+    QFETCH(const QString, how);
+    FileTask task(nullptr);
+    std::atomic<bool> isSeen = false;
+    const WhileProgress progress([&, how](QProgressDialog *dialog, int times) {
+        if (times == 1)
+            cancelBy(how, dialog);
+        else
+            isSeen = dialog->isModal();
+    });
+    task.run([&] {
+        constexpr qint64 Patience = 2500; // ms
+        QElapsedTimer clock;
+        clock.start();
+        while (!isSeen && !clock.hasExpired(Patience))
+            std::this_thread::yield();
+    });
+    QVERIFY(task.progress().isCancelled());
+    QVERIFY(isSeen);
 }
 
 void tst_FileTask::windowDiesMeanwhile_data()
