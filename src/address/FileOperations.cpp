@@ -89,15 +89,14 @@ bool isCutData(const QMimeData *data)
 }
 
 /// Runs \a work with a progress dialog over the widget \a parent. Returns false without doing
-/// anything when another operation is at work.
+/// anything when another operation is at work, or none can be.
 bool perform(QObject *parent, const std::function<void(FileTask &)> &work)
 {
     if (operationIsRunning)
         return false;
     const QScopedValueRollback running(operationIsRunning, true);
     FileTask task(qobject_cast<QWidget *>(parent));
-    task.run([&work, &task] { work(task); });
-    return true;
+    return task.run([&work, &task] { work(task); });
 }
 
 // --- Boxes ----------------------------------------------------------------------------------

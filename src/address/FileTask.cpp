@@ -9,9 +9,9 @@
 #include <QLocale>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QThread>
 
 #include <chrono>
-#include <thread>
 
 namespace VornFrame {
 
@@ -23,20 +23,27 @@ constexpr qint64 DialogDelay = 1000; // ms
 constexpr auto RefreshInterval = 40ms;
 constexpr int LabelWidth = 360; // px
 constexpr int ProgressSteps = 1000;
+// Folders are copied by recursion, to the longest path that a system takes. What a thread has by
+// itself is less than that needs: 512 KiB on macOS, 128 KiB with some C libraries.
+constexpr uint StackSize = 16U * 1024 * 1024; // bytes
 
 } // namespace
 
 FileTask::FileTask(QWidget *window) : m_window(window ? window->window() : nullptr) {}
 
-void FileTask::run(const std::function<void()> &work)
+bool FileTask::run(const std::function<void()> &work)
 {
     m_clock.start();
-    std::thread thread([this, &work] {
+    const std::unique_ptr<QThread> thread(QThread::create([this, &work] {
         work();
         const std::scoped_lock lock(m_mutex);
         m_isDone = true;
         m_changed.notify_all();
-    });
+    }));
+    thread->setStackSize(StackSize);
+    thread->start();
+    if (!thread->isRunning() && !thread->isFinished())
+        return false;
     {
         Lock lock(m_mutex);
         while (!m_isDone) {
@@ -46,8 +53,9 @@ void FileTask::run(const std::function<void()> &work)
                 wait(lock);
         }
     }
-    thread.join();
+    thread->wait();
     delete m_dialog;
+    return true;
 }
 
 void FileTask::ask(const std::function<void()> &question)
@@ -98,7 +106,7 @@ void FileTask::showProgress()
             : tr("%1 of %2").arg(locale.formattedDataSize(done), locale.formattedDataSize(total));
     m_dialog->setLabelText(metrics.elidedText(name, Qt::ElideMiddle, LabelWidth).simplified()
                            + QLatin1Char('\n') + bytes);
-    // The window manager can close it.
+    // The user can close it.
     if (!m_dialog->isVisible())
         m_dialog->show();
     m_bar->setMaximum(total == 0 ? 0 : ProgressSteps);

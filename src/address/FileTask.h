@@ -29,8 +29,9 @@ public:
     /// The progress is shown over \a window, which may be null and may die meanwhile.
     explicit FileTask(QWidget *window);
 
-    /// Returns when \a work is done.
-    void run(const std::function<void()> &work);
+    /// Returns when \a work is done; false when the system has no thread for it, and nothing was
+    /// done.
+    bool run(const std::function<void()> &work);
 
     /// For the work: runs \a question in the thread of the caller and waits for it.
     void ask(const std::function<void()> &question);
