@@ -144,6 +144,9 @@ void FilePaste::pasteOne(const Path &source, const Path &folder)
 
 void FilePaste::copyTo(const Path &source, const Path &target, bool overwrite)
 {
+    // It may have gone while the question was open. Only when it is copied that is told.
+    if (m_isCut && !factsOf(source).exists())
+        return;
     m_copier.copy(source, target, overwrite);
     if (m_isCut) {
         m_copied.emplace_back(source, target);
@@ -151,7 +154,7 @@ void FilePaste::copyTo(const Path &source, const Path &target, bool overwrite)
     }
 }
 
-/// Removes the sources that have arrived. To put them on the disk one by one would take longer than
+/// Removes the sources that have arrived; forgets the others, which stay. To put them on the disk one by one would take longer than
 /// all the rest, so it is done for as many as possible at once.
 void FilePaste::settle()
 {
@@ -164,6 +167,8 @@ void FilePaste::settle()
         FileRemoval::removeCopied(source, m_record, m_progress);
     m_copied.clear();
     m_waiting.clear();
+    // What arrived at one target is no proof of having arrived at the next.
+    m_record.clear();
 }
 
 /// A source inside another one that was cut has gone with it, and the other way round.

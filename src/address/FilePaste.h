@@ -37,6 +37,8 @@ public:
     void run(const std::vector<Path> &sources, const Path &folder);
 
 private:
+    Q_DISABLE_COPY_MOVE(FilePaste)
+
     void pasteOne(const Path &source, const Path &folder);
     void copyTo(const Path &source, const Path &target, bool overwrite);
     void settle();

@@ -19,6 +19,8 @@ public:
         m_facts.insert_or_assign(source.native(), facts);
     }
 
+    void clear() { m_facts.clear(); }
+
     /// Whether \a source was copied, and is still what it was; \a facts are those of now. The
     /// contents of a folder are for the caller to look at.
     bool holds(const NativeFiles::Path &source, const NativeFiles::Facts &facts) const

@@ -7,6 +7,7 @@
 #include "address/FileCheck.h"
 #include "address/FileOperations.h"
 #include "address/FilePaste.h"
+#include "address/FileProgress.h"
 #include "support/TestCase.h"
 
 #include <QApplication>
@@ -17,13 +18,17 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QUrl>
 
 #include <filesystem>
 
+#include <climits>
+
 #include <fcntl.h>
+#include <pthread.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -64,6 +69,8 @@ private Q_SLOTS:
     void nestedSources_data();
     void nestedSources();
     void sameSourceTwice();
+    void earlierCopyIsNoProofOfALaterOne();
+    void cutSourceThatGoesDuringTheQuestion();
     void placeHoldersInNamesStay();
     void onlyLocalFilesArePasted();
     void linksAreReplacedNotFollowed_data();
@@ -74,6 +81,7 @@ private Q_SLOTS:
     void hugeHolesStayHoles();
     void filesThatSayTheyAreEmpty();
     void deepFolders();
+    void foldersAsDeepAsPathsCanBe();
     void copiesOfCopies();
     void newFoldersBesideBrokenLinks();
 
@@ -287,6 +295,40 @@ void tst_FileEdges::sameSourceTwice()
     QCOMPARE(m_boxes, QStringList(u"Source file does not exist"_s));
 }
 
+void tst_FileEdges::earlierCopyIsNoProofOfALaterOne()
+{
+    write(u"folder/file"_s, "data");
+    write(u"target/file"_s, "DATA");
+    // It is left out, so that the folder stays where it is.
+    QCOMPARE(::mkfifo(native("folder/pipe").c_str(), 0600), 0);
+    FileProgress progress;
+    const auto cancelAndReplace = [&progress](const fs::path &, bool) {
+        progress.cancel();
+        return FilePaste::Answer::Replace;
+    };
+    FilePaste paste(true, {cancelAndReplace, [](const fs::path &, const fs::path &, int) {}},
+                    progress);
+    paste.run({native("folder"), native("folder/file")}, native("target"));
+    QCOMPARE(read(u"target/folder/file"_s), QByteArray("data"));
+    QCOMPARE(read(u"target/file"_s), QByteArray("DATA"));
+    QCOMPARE(read(u"folder/file"_s), QByteArray("data"));
+}
+
+void tst_FileEdges::cutSourceThatGoesDuringTheQuestion()
+{
+    write(u"file"_s, "data");
+    write(u"target/file"_s, "old");
+    m_answer = u"Replace Current"_s;
+    QTimer remover;
+    connect(&remover, &QTimer::timeout, this, [this] { QFile::remove(path(u"file"_s)); });
+    m_driver.stop();
+    connect(&remover, &QTimer::timeout, this, &tst_FileEdges::answerBox);
+    remover.start(0);
+    paste("cut", {path(u"file"_s)}, path(u"target"_s));
+    QCOMPARE(m_boxes.size(), 1);
+    QCOMPARE(read(u"target/file"_s), QByteArray("old"));
+}
+
 void tst_FileEdges::placeHoldersInNamesStay()
 {
     write(u"%1 and %2"_s, "file");
@@ -440,6 +482,30 @@ void tst_FileEdges::deepFolders()
     paste("cut", {path(u"deep"_s)}, path(u"target"_s));
     QVERIFY(!QFile::exists(path(u"deep"_s)));
     QCOMPARE(read(u"target/"_s + deep + u"/file"_s), QByteArray("bottom"));
+    QVERIFY(m_operations.removePath(path(u"target/deep"_s)));
+}
+
+void tst_FileEdges::foldersAsDeepAsPathsCanBe()
+{
+#ifdef __GLIBC__
+    // Other systems give a thread as little as this to work with.
+    pthread_attr_t before;
+    QCOMPARE(::pthread_getattr_default_np(&before), 0);
+    pthread_attr_t small;
+    QCOMPARE(::pthread_attr_init(&small), 0);
+    QCOMPARE(::pthread_attr_setstacksize(&small, size_t(512) * 1024), 0);
+    QCOMPARE(::pthread_setattr_default_np(&small), 0);
+    const auto restore = qScopeGuard([&before] { ::pthread_setattr_default_np(&before); });
+#endif
+    constexpr int Levels = PATH_MAX / 2 - 150;
+    const QString deep = u"deep"_s + u"/d"_s.repeated(Levels);
+    write(deep + u"/file"_s, "bottom");
+    paste("cut", {path(u"deep"_s)}, path(u"target"_s));
+    QVERIFY(!QFile::exists(path(u"deep"_s)));
+    QCOMPARE(read(u"target/"_s + deep + u"/file"_s), QByteArray("bottom"));
+    // Where there is no trash, it is removed level by level.
+    QVERIFY(QDir(path(u"data"_s)).removeRecursively());
+    write(u"data"_s, "no folder");
     QVERIFY(m_operations.removePath(path(u"target/deep"_s)));
 }
 
