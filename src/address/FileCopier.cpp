@@ -9,6 +9,7 @@
 
 #include <QDebug>
 #include <QRandomGenerator>
+#include <QScopeGuard>
 
 #include <algorithm>
 #include <set>
@@ -55,7 +56,6 @@ void FileCopier::copy(const Path &source, const Path &target, bool overwrite)
     default:
         break;
     }
-    m_target.reset();
     m_replacements.clear();
     const Facts facts = factsOf(source);
     if (facts.isFolder() && !target.parent_path().empty()) {
@@ -91,8 +91,8 @@ void FileCopier::copyFolder(const Entry &source, const Entry &target, bool overw
     const bool isNew = !target.facts.exists();
     if (isNew && !makeFolder(target.path))
         return;
-    if (!m_target)
-        m_target = factsOf(target.path).identity;
+    m_targets.push_back(isNew ? factsOf(target.path).identity : target.facts.identity);
+    const auto leave = qScopeGuard([this] { m_targets.pop_back(); });
     // In a new folder there is nothing to look for.
     const auto found = [isNew](const Path &path) { return isNew ? Facts() : factsOf(path); };
 
@@ -125,7 +125,8 @@ void FileCopier::copyFolder(const Entry &source, const Entry &target, bool overw
 void FileCopier::copySubFolder(const Entry &source, const Entry &target, bool overwrite)
 {
     // Mounted in two places, a folder can lie inside itself without its name telling so.
-    if (source.facts.identity == m_target)
+    if (std::find(m_targets.cbegin(), m_targets.cend(), source.facts.identity)
+        != m_targets.cend())
         return;
     const FileCheck::Code code = FileCheck::checkKinds(source.facts, target.facts);
     if (code == FileCheck::SourceMissing || code == FileCheck::FileAndFolder)

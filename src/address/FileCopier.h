@@ -7,7 +7,6 @@
 #include "NativeFiles.h"
 
 #include <functional>
-#include <optional>
 #include <unordered_set>
 #include <vector>
 
@@ -60,7 +59,7 @@ private:
     FileProgress &m_progress;
     const Report m_report;
     FileRecord *const m_record;
-    std::optional<NativeFiles::Identity> m_target; ///< the folder at the top of the copy
+    std::vector<NativeFiles::Identity> m_targets; ///< the folder that is filled, and those above
     std::unordered_set<quint64> m_replacements; ///< files that were copied with overwriting
 };
 

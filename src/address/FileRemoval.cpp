@@ -13,21 +13,31 @@ using namespace NativeFiles;
 
 namespace {
 
-/// Removes for good, to the end also where a part cannot be removed. With a \a record, only what it
-/// holds.
-bool removeTree(const Path &path, const FileRecord *record, FileProgress &progress)
+/// What removeTree() needs to know at every level.
+struct Removal
+{
+    const FileRecord *record; ///< limits it to what was copied; null for all
+    FileProgress &progress;
+    quint64 device;
+};
+
+/// Removes for good, to the end also where a part cannot be removed. What has been mounted inside
+/// since it began stays.
+bool removeTree(const Path &path, const Removal &removal)
 {
     // What was copied is taken away to the end: the user cancelled the copying of more.
-    if (progress.isCancelled() && !record)
+    if (removal.progress.isCancelled() && !removal.record)
         return false;
-    progress.setCurrent(path);
+    removal.progress.setCurrent(path);
     const Facts facts = factsOf(path);
-    if (!facts.exists() || (record && !record->holds(path, facts)))
+    if (!facts.exists() || (removal.record && !removal.record->holds(path, facts)))
         return false;
     if (!facts.isFolder())
         return removeFile(path);
+    if (facts.identity.device != removal.device)
+        return false;
     for (const Path &name : namesIn(path).value_or(std::vector<Path>()))
-        removeTree(path / name, record, progress);
+        removeTree(path / name, removal);
     return removeFolder(path);
 }
 
@@ -44,7 +54,8 @@ bool removeAny(const Path &path, const FileRecord *record, FileProgress &progres
     if (!canGo(path))
         return false;
     progress.setCurrent(path);
-    return FileTrash::take(path) || removeTree(path, record, progress);
+    const quint64 device = factsOf(path).identity.device;
+    return FileTrash::take(path) || removeTree(path, {record, progress, device});
 }
 
 } // namespace

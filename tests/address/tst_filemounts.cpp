@@ -66,10 +66,12 @@ private Q_SLOTS:
     void mountInsideIsNotEmptied_data();
     void mountInsideIsNotEmptied();
     void mountInsideIsSeenThroughALink();
+    void mountThatComesLaterIsNotEmptied();
     void boundSourceIsTheSameFile_data();
     void boundSourceIsTheSameFile();
     void targetInsideTheSourceThroughABind();
     void folderBoundIntoItself();
+    void sourceBoundIntoTheTarget();
     void linkToTheSourceFolderAsTarget();
     void folderWithTheTrashStays();
     void trashAtTheTopOfADiskStays();
@@ -227,6 +229,28 @@ void tst_FileMounts::mountInsideIsSeenThroughALink()
     QVERIFY(fs::exists(path("real/folder/mount/precious")));
 }
 
+/// Removing a big folder can take minutes.
+void tst_FileMounts::mountThatComesLaterIsNotEmptied()
+{
+    if (!hasProgram(u"strace"_s))
+        QSKIP("strace is not installed");
+    makeFile(path("data/Trash"), "none");
+    makeFile(path(".Trash-0"), "none");
+    fs::create_directories(path("folder/sub"));
+    // Disks in memory list what came last first.
+    makeFile(path("folder/first"), "first");
+    const QStringList prefix = {u"strace"_s, u"-f"_s, u"-o"_s, u"/dev/null"_s, u"-P"_s,
+                                text(path("folder/first")), u"-e"_s,
+                                u"inject=unlink,unlinkat:delay_exit=1500000"_s};
+    Operation operation({u"remove"_s, text(path("folder"))}, path("data"), prefix);
+    QTRY_VERIFY(!fs::exists(path("folder/first")));
+    const Mount mount(path("folder/sub"), {u"-t"_s, u"tmpfs"_s, u"tmpfs"_s});
+    makeFile(path("folder/sub/precious"), "precious");
+    QVERIFY2(operation.finish(), operation.output().constData());
+    QVERIFY(operation.output().contains("left"));
+    QVERIFY(readAll(path("folder/sub/precious")).startsWith("precious"));
+}
+
 void tst_FileMounts::boundSourceIsTheSameFile_data()
 {
     QTest::addColumn<QString>("marker");
@@ -271,6 +295,17 @@ void tst_FileMounts::folderBoundIntoItself()
         QVERIFY(readAll(path("target/real/file")).startsWith("file"));
         QVERIFY(fs::exists(path("real/again/real/file")));
     }
+}
+
+void tst_FileMounts::sourceBoundIntoTheTarget()
+{
+    makeFile(path("folder/sub/deep/file"), "file");
+    fs::create_directories(path("target/folder/sub"));
+    const Mount mount(path("target/folder/sub"), {u"--bind"_s, text(path("folder/sub/deep"))});
+    operate({u"--answer"_s, u"Replace Current"_s, u"paste"_s, u"cut"_s, text(path("target")),
+             text(path("folder"))});
+    QVERIFY(readAll(path("folder/sub/deep/file")).startsWith("file"));
+    QVERIFY(!fs::exists(path("folder/sub/deep/deep")));
 }
 
 void tst_FileMounts::linkToTheSourceFolderAsTarget()
