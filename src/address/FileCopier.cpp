@@ -125,8 +125,7 @@ void FileCopier::copyFolder(const Entry &source, const Entry &target, bool overw
 void FileCopier::copySubFolder(const Entry &source, const Entry &target, bool overwrite)
 {
     // Mounted in two places, a folder can lie inside itself without its name telling so.
-    if (std::find(m_targets.cbegin(), m_targets.cend(), source.facts.identity)
-        != m_targets.cend())
+    if (std::find(m_targets.cbegin(), m_targets.cend(), source.facts.identity) != m_targets.cend())
         return;
     const FileCheck::Code code = FileCheck::checkKinds(source.facts, target.facts);
     if (code == FileCheck::SourceMissing || code == FileCheck::FileAndFolder)

@@ -30,7 +30,8 @@ public:
     FileCopier(FileProgress &progress, Report report, FileRecord *record = nullptr);
 
     /// Copies \a source, which may be a folder with all that is in it, to the name \a target. Files
-    /// that exist there stay, unless \a overwrite: then they go to the trash.
+    /// that exist there stay, unless \a overwrite: then they go to the trash, or for good where
+    /// there is none.
     void copy(const Path &source, const Path &target, bool overwrite);
 
     /// Whether all of \a source was copied to \a target, did not change since, and is on the disk.

@@ -31,8 +31,8 @@ private:
 ///
 /// An operation returns when it is done. One that takes longer than a second shows a modal dialog
 /// with its progress, in which it can be cancelled; as long as it runs, all others are ignored, also
-/// those of another object. No operation destroys what exists nowhere else: a source is
-/// removed after all of it has arrived, a replaced file after its replacement is complete. Links are
+/// those of another object. What goes, goes to the trash, and for good only where there is none: a
+/// source after all of it has arrived, a replaced file after its replacement is complete. Links are
 /// copied and removed as links; pipes, sockets and devices are left alone.
 class FileOperations : public QObject
 {
@@ -52,8 +52,8 @@ public:
     void paste(const QString &target = QString());
 
     /// Copies a file, or a folder with all that is in it; a folder that exists is merged with.
-    /// \a overwrite replaces files that exist, which go to the trash; otherwise they stay and
-    /// nothing is said.
+    /// \a overwrite replaces files that exist, which go to the trash, or for good where there
+    /// is none; otherwise they stay and nothing is said.
     void copyPath(const QString &source, const QString &target, bool overwrite);
 
     /// Moves \a path to the trash; removes it for good where there is none. Returns whether it is

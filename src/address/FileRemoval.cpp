@@ -36,8 +36,12 @@ bool removeTree(const Path &path, const Removal &removal)
         return removeFile(path);
     if (facts.identity.device != removal.device)
         return false;
-    for (const Path &name : namesIn(path).value_or(std::vector<Path>()))
+    for (const Path &name : namesIn(path).value_or(std::vector<Path>())) {
+        // Somebody may have put another folder, or a link to one, in its place meanwhile.
+        if (!(factsOf(path).identity == facts.identity))
+            return false;
         removeTree(path / name, removal);
+    }
     return removeFolder(path);
 }
 

@@ -119,6 +119,10 @@ private:
                 return false;
             position = std::max(end, data);
         }
+        // Past the end of a file that shrinks meanwhile all looks like a hole.
+        struct stat status = {};
+        if (retried([&] { return ::fstat(m_from, &status); }) != 0 || status.st_size < size)
+            return false;
         return retried([&] { return ::ftruncate(m_to, size); }) == 0;
     }
 

@@ -67,6 +67,7 @@ private Q_SLOTS:
     void mountInsideIsNotEmptied();
     void mountInsideIsSeenThroughALink();
     void mountThatComesLaterIsNotEmptied();
+    void linkThatComesLaterIsNotFollowed();
     void boundSourceIsTheSameFile_data();
     void boundSourceIsTheSameFile();
     void targetInsideTheSourceThroughABind();
@@ -239,9 +240,10 @@ void tst_FileMounts::mountThatComesLaterIsNotEmptied()
     fs::create_directories(path("folder/sub"));
     // Disks in memory list what came last first.
     makeFile(path("folder/first"), "first");
-    const QStringList prefix = {u"strace"_s, u"-f"_s, u"-o"_s, u"/dev/null"_s, u"-P"_s,
-                                text(path("folder/first")), u"-e"_s,
-                                u"inject=unlink,unlinkat:delay_exit=1500000"_s};
+    const QStringList prefix = {u"strace"_s, u"-f"_s,
+                                u"-o"_s,     u"/dev/null"_s,
+                                u"-P"_s,     text(path("folder/first")),
+                                u"-e"_s,     u"inject=unlink,unlinkat:delay_exit=1500000"_s};
     Operation operation({u"remove"_s, text(path("folder"))}, path("data"), prefix);
     QTRY_VERIFY(!fs::exists(path("folder/first")));
     const Mount mount(path("folder/sub"), {u"-t"_s, u"tmpfs"_s, u"tmpfs"_s});
@@ -249,6 +251,29 @@ void tst_FileMounts::mountThatComesLaterIsNotEmptied()
     QVERIFY2(operation.finish(), operation.output().constData());
     QVERIFY(operation.output().contains("left"));
     QVERIFY(readAll(path("folder/sub/precious")).startsWith("precious"));
+}
+
+void tst_FileMounts::linkThatComesLaterIsNotFollowed()
+{
+    if (!hasProgram(u"strace"_s))
+        QSKIP("strace is not installed");
+    makeFile(path("data/Trash"), "none");
+    makeFile(path(".Trash-0"), "none");
+    makeFile(path("other/second"), "precious");
+    // Disks in memory list what came last first.
+    makeFile(path("folder/second"), "second");
+    makeFile(path("folder/first"), "first");
+    const QStringList prefix = {u"strace"_s, u"-f"_s,
+                                u"-o"_s,     u"/dev/null"_s,
+                                u"-P"_s,     text(path("folder/first")),
+                                u"-e"_s,     u"inject=unlink,unlinkat:delay_exit=1500000"_s};
+    Operation operation({u"remove"_s, text(path("folder"))}, path("data"), prefix);
+    QTRY_VERIFY(!fs::exists(path("folder/first")));
+    fs::rename(path("folder"), path("moved"));
+    fs::create_symlink("other", path("folder"));
+    QVERIFY2(operation.finish(), operation.output().constData());
+    QVERIFY(readAll(path("other/second")).startsWith("precious"));
+    QVERIFY(readAll(path("moved/second")).startsWith("second"));
 }
 
 void tst_FileMounts::boundSourceIsTheSameFile_data()

@@ -355,8 +355,7 @@ void tst_FileTask::cancelReachesTheWork()
     QFETCH(const QString, how);
     FileTask task(nullptr);
     Work work(task);
-    const WhileProgress progress(
-        [how](QProgressDialog *dialog, int) { cancelBy(how, dialog); });
+    const WhileProgress progress([how](QProgressDialog *dialog, int) { cancelBy(how, dialog); });
     task.run(work.run);
     QVERIFY(task.progress().isCancelled());
     QVERIFY(!work.isOver);
