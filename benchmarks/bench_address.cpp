@@ -137,14 +137,15 @@ public:
         return deep;
     }
 
-    /// An empty folder to paste into; nothing that was written before is still on its way.
-    QString emptyTarget() const
+    /// A new folder to work in; nothing that was written before is still on its way. What lies in
+    /// those before it stays there: a file system may take seconds to look for what to use again of
+    /// thousands of files that were just removed.
+    QString newFolder()
     {
-        const QString target = path(u"target"_s);
-        QProcess::execute(u"rm"_s, {u"-rf"_s, target, path(u"home"_s)});
-        QDir().mkpath(target);
+        const QString folder = path(u"target %1"_s.arg(++m_folders));
+        QDir().mkpath(folder);
         ::sync();
-        return target;
+        return folder;
     }
 
 private:
@@ -163,6 +164,7 @@ private:
     }
 
     const QTemporaryDir m_folder;
+    int m_folders = 0;
 };
 
 /// Pastes as a person does: by Ctrl+V in the tree.
@@ -240,41 +242,46 @@ BENCHMARK(navigate)->Apply(timed)->Iterations(9);
 
 void pasteManySmallFiles(benchmark::State &state)
 {
-    const Files &files = Files::instance();
+    Files &files = Files::instance();
     const QString source = files.manyFiles();
     AddressBar bar;
     QString target;
     sideBySide(
-        state, [&] { target = files.emptyTarget(); },
-        [&] { paste(bar, source, "copy"_ba, target); }, [&] { copyByProgram(source, target); });
+        state, [&] { target = files.newFolder(); }, [&] { paste(bar, source, "copy"_ba, target); },
+        [&] { copyByProgram(source, target); });
 }
 BENCHMARK(pasteManySmallFiles)->Apply(timed)->Iterations(9);
 
 void pasteOneBigFile(benchmark::State &state)
 {
-    const Files &files = Files::instance();
+    Files &files = Files::instance();
     const QString source = files.bigFile();
     AddressBar bar;
-    QString target;
+    const QString target = files.newFolder();
+    const auto clear = [&target] {
+        QFile::remove(target + u"/big"_s);
+        ::sync();
+    };
     sideBySide(
-        state, [&] { target = files.emptyTarget(); },
-        [&] { paste(bar, source, "copy"_ba, target); }, [&] { copyByProgram(source, target); });
+        state, clear, [&] { paste(bar, source, "copy"_ba, target); },
+        [&] { copyByProgram(source, target); });
 }
 BENCHMARK(pasteOneBigFile)->Apply(timed)->Iterations(5);
 
 /// Beside a copy that is put on the disk, which is what a cut waits for before it removes anything.
 void cutManySmallFiles(benchmark::State &state)
 {
-    const Files &files = Files::instance();
-    const QString source = files.path(u"to be cut"_s);
+    Files &files = Files::instance();
     AddressBar bar;
+    QString source;
     QString target;
     sideBySide(
         state,
         [&] {
-            QProcess::execute(u"rm"_s, {u"-rf"_s, source});
-            copyByProgram(files.manyFiles(), source);
-            target = files.emptyTarget();
+            const QString folder = files.newFolder();
+            copyByProgram(files.manyFiles(), folder);
+            source = folder + u"/small"_s;
+            target = files.newFolder();
         },
         [&] { paste(bar, source, "cut"_ba, target); },
         [&] {

@@ -154,8 +154,8 @@ void FilePaste::copyTo(const Path &source, const Path &target, bool overwrite)
     }
 }
 
-/// Removes the sources that have arrived; forgets the others, which stay. To put them on the disk one by one would take longer than
-/// all the rest, so it is done for as many as possible at once.
+/// Removes the sources that have arrived; forgets the others, which stay. To put them on the disk
+/// one by one would take longer than all the rest, so it is done for as many as possible at once.
 void FilePaste::settle()
 {
     std::vector<Path> arrived;
