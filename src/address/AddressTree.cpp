@@ -7,6 +7,8 @@
 
 #include "FileNameDelegate.h"
 
+#include "core/PolishAgain.h"
+
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QFileInfo>
@@ -80,14 +82,6 @@ void AddressTreePrivate::initView()
     q_ptr->header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     q_ptr->sortByColumn(0, Qt::AscendingOrder);
     q_ptr->setSortingEnabled(true);
-    showSortIndicator();
-}
-
-/// The header's texts stand at the left in any language, and from right to left the indicator would
-/// lie upon them.
-void AddressTreePrivate::showSortIndicator()
-{
-    q_ptr->header()->setSortIndicatorShown(!q_ptr->isRightToLeft());
 }
 
 QAction *AddressTreePrivate::addAction(const QString &text, const QKeySequence &shortcut,
@@ -358,10 +352,9 @@ bool AddressTree::event(QEvent *event)
 
 void AddressTree::changeEvent(QEvent *event)
 {
-    Q_D(AddressTree);
     QTreeView::changeEvent(event);
     if (event->type() == QEvent::LayoutDirectionChange)
-        d->showSortIndicator();
+        polishAgain(header());
 }
 
 void AddressTree::keyPressEvent(QKeyEvent *event)

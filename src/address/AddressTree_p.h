@@ -19,7 +19,6 @@ public:
     void init();
     void initModel();
     void initView();
-    void showSortIndicator();
     QAction *addAction(const QString &text, const QKeySequence &shortcut,
                        void (AddressTreePrivate::*reaction)());
     void initActions();

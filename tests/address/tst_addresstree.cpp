@@ -3,6 +3,8 @@
 
 #include "TreeFixture.h"
 
+#include "core/ResourcePaths.h"
+#include "core/StyleSheets.h"
 #include "support/ImageChecks.h"
 #include "support/PopupDriver.h"
 
@@ -43,6 +45,7 @@ private Q_SLOTS:
     void actionsFollowTheSelection();
     void pasteFollowsTheClipboard();
 
+    void linesOfTheHeaderFollowTheDirection();
     void doubleClickOnAFolderGoesThere();
     void doubleClickOnAFolderWithABackslashStays();
     void doubleClickOnAKnownFileHandsItToTheHost();
@@ -128,12 +131,10 @@ void tst_AddressTree::headerSortsFromRightToLeftToo()
 {
     tree->setLayoutDirection(Qt::RightToLeft);
     QVERIFY(showTree());
-    QVERIFY(!tree->header()->isSortIndicatorShown());
+    QVERIFY(tree->header()->isSortIndicatorShown());
     Input::click(tree->header()->viewport(), QPoint(tree->header()->width() - 50, 8));
     const QStringList ascending = sortedNames();
     QTRY_COMPARE(names(), QStringList(ascending.crbegin(), ascending.crend()));
-    tree->setLayoutDirection(Qt::LeftToRight);
-    QVERIFY(tree->header()->isSortIndicatorShown());
 }
 
 void tst_AddressTree::withoutAFolderThereIsNoPath()
@@ -318,6 +319,25 @@ void tst_AddressTree::pasteFollowsTheClipboard()
     putFilesOnClipboard({path(u"alpha.txt"_s)});
     clipboard()->clear();
     QVERIFY(!action(u"Paste"_s)->isEnabled());
+}
+
+void tst_AddressTree::linesOfTheHeaderFollowTheDirection()
+{
+    const QColor line(191, 191, 191);
+    VornFrame::StyleSheets::load(tree.get(), VornFrame::ResourcePaths::AddressSheet);
+    QVERIFY(showTree());
+    for (const Qt::LayoutDirection direction : {Qt::RightToLeft, Qt::LeftToRight}) {
+        tree->setLayoutDirection(direction);
+        QCoreApplication::processEvents();
+        QHeaderView *header = tree->header();
+        const QImage image = ImageChecks::rendered(header, 1);
+        const QRect name(header->sectionViewportPosition(0), 5, header->sectionSize(0), 5);
+        const QRect left(name.topLeft(), QSize(2, name.height()));
+        const QRect right(name.topRight() - QPoint(1, 0), left.size());
+        const bool isMirrored = direction == Qt::RightToLeft;
+        QCOMPARE(ImageChecks::contains(image, left, line).isEmpty(), isMirrored);
+        QCOMPARE(ImageChecks::contains(image, right, line).isEmpty(), !isMirrored);
+    }
 }
 
 void tst_AddressTree::doubleClickOnAFolderGoesThere()
