@@ -132,7 +132,7 @@ public:
 
     QString deepFolder() const
     {
-        const QString deep = path(u"deep"_s) + u"/level"_s.repeated(Depth);
+        QString deep = path(u"deep"_s) + u"/level"_s.repeated(Depth);
         QDir().mkpath(deep);
         return deep;
     }
@@ -142,7 +142,7 @@ public:
     /// thousands of files that were just removed.
     QString newFolder()
     {
-        const QString folder = path(u"target %1"_s.arg(++m_folders));
+        QString folder = path(u"target %1"_s.arg(++m_folders));
         QDir().mkpath(folder);
         ::sync();
         return folder;

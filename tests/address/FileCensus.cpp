@@ -47,7 +47,7 @@ QByteArray FileCensus::contentOf(const Path &path)
         return "link " + QByteArray::fromStdString(fs::read_symlink(path, error).native());
     if (!fs::is_regular_file(status))
         return {};
-    constexpr std::uintmax_t Most = 64 * 1024 * 1024;
+    constexpr std::uintmax_t Most = std::uintmax_t(64) * 1024 * 1024;
     const std::uintmax_t size = fs::file_size(path, error);
     if (size > Most)
         return "big " + QByteArray::number(qulonglong(size));

@@ -99,8 +99,12 @@ void FileModel::addLines(const Node &node, const std::string &path, QByteArrayLi
         line += ' ' + QByteArray::number(node.body->modified) + ' '
                 + node.body->content.toPercentEncoding().replace("%00", QByteArray());
     lines->append(line);
-    for (const auto &[name, child] : node.children)
-        addLines(*child, path + '/' + name, lines);
+    for (const auto &[name, child] : node.children) {
+        auto below = path;
+        below += '/';
+        below += name;
+        addLines(*child, below, lines);
+    }
 }
 
 std::vector<FileModel::Path> FileModel::paths() const
@@ -162,13 +166,12 @@ std::optional<FileModel::Path> FileModel::folderFor(const Path &target) const
 
 bool FileModel::isSame(const Path &source, const Path &target) const
 {
-    for (const bool follow : {false, true}) {
+    const auto leadToOne = [&](bool follow) {
         const NodePointer one = find(source, follow);
         const NodePointer other = find(target, follow);
-        if (one && other && (one == other || (one->body && one->body == other->body)))
-            return true;
-    }
-    return false;
+        return one && other && (one == other || (one->body && one->body == other->body));
+    };
+    return leadToOne(false) || leadToOne(true);
 }
 
 /// Whether \a path, of which the last part may be missing, is somewhere in \a folder.
@@ -207,10 +210,10 @@ bool FileModel::showsError(const Path &source, const Path &target)
     const NodePointer to = find(target, false);
     const QString both = u"Cannot copy or move the file from "_s + text(source) + u" to "_s
                          + text(target) + u". "_s;
+    if (from && isSame(source, target))
+        return false;
     if (!from)
         taken(u"Source file does not exist"_s);
-    else if (isSame(source, target))
-        return false;
     else if (from->isFolder() && holds(*from, target))
         taken(both + u"The Target folder is a subfolder of the source folder."_s);
     else if (to && from->isFolder() != to->isFolder())
@@ -265,7 +268,7 @@ FileModel::Path FileModel::freeName(const Path &source, const Path &folder) cons
 {
     for (int counter = 2;; ++counter) {
         const QString name = copyName(counter, text(source.filename()));
-        const Path target = folder / QFile::encodeName(name).toStdString();
+        Path target = folder / QFile::encodeName(name).toStdString();
         if (!find(target, false))
             return target;
     }

@@ -23,6 +23,7 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <array>
 #include <filesystem>
 
 #include <climits>
@@ -337,7 +338,7 @@ void tst_FileEdges::placeHoldersInNamesStay()
     QVERIFY2(m_boxes.value(0).contains(u"a file named %1 and %2. Do"_s),
              qPrintable(m_boxes.value(0)));
     m_boxes.clear();
-    m_operations.showCopyError(u"/%2/a"_s, u"/%1/b"_s, FileCheck::PermissionDenied);
+    FileOperations::showCopyError(u"/%2/a"_s, u"/%1/b"_s, FileCheck::PermissionDenied);
     QCOMPARE(m_boxes.value(0),
              u"Cannot copy or move the file from /%2/a to /%1/b. File permission denied."_s);
     QCOMPARE(copyName(2, u"%1%2.%1"_s), u"Copy_2_of_%1%2.%1"_s);
@@ -424,10 +425,11 @@ void tst_FileEdges::permissionsAndTimesAreKept()
     // Others than root must be able to read what they copy.
     const uint readable = ::geteuid() == 0 ? mode : mode | 0500U;
     write(u"tree/file"_s, "file");
-    const timespec times[] = {{time_t(seconds), 123'456'789}, {time_t(seconds), 123'456'789}};
+    const timespec time = {time_t(seconds), 123'456'789};
+    const std::array<timespec, 2> times = {time, time};
     for (const char *name : {"tree/file", "tree"}) {
         QCOMPARE(::chmod(native(name).c_str(), mode_t(readable)), 0);
-        QCOMPARE(::utimensat(AT_FDCWD, native(name).c_str(), times, 0), 0);
+        QCOMPARE(::utimensat(AT_FDCWD, native(name).c_str(), times.data(), 0), 0);
     }
     paste("copy", {path(u"tree"_s)}, path(u"target"_s));
     for (const char *name : {"target/tree/file", "target/tree"}) {

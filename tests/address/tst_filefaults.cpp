@@ -213,12 +213,12 @@ bool tst_FileFaults::attach(Attempt &attempt, const QStringList &expressions, co
         if (!process.waitForReadyRead(10'000))
             return false;
     }
-    const QString process_id = QString::fromLatin1(process.readLine()).section(u' ', 1).trimmed();
+    const QString processId = QString::fromLatin1(process.readLine()).section(u' ', 1).trimmed();
     attempt.tracer = std::make_unique<QProcess>();
     QStringList arguments = {u"-f"_s, u"-qq"_s, u"-o"_s, text(log)};
     for (const QString &expression : expressions)
         arguments += {u"-e"_s, expression};
-    attempt.tracer->start(u"strace"_s, arguments + QStringList{u"-p"_s, process_id});
+    attempt.tracer->start(u"strace"_s, arguments + QStringList{u"-p"_s, processId});
     return attempt.tracer->waitForStarted();
 }
 

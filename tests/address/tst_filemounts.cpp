@@ -560,17 +560,17 @@ void tst_FileMounts::immutable()
     const QTemporaryDir own(QStringLiteral("/var/tmp/vornframe-XXXXXX"));
     const Path folder = own.path().toStdString();
     for (const Trash trash : {Trash::Unsure, Trash::None}) {
-        const Path run_folder = folder / std::to_string(int(trash));
-        FaultScene scene(run_folder / "source", run_folder / "target", run_folder / "data");
+        const Path runFolder = folder / std::to_string(int(trash));
+        FaultScene scene(runFolder / "source", runFolder / "target", runFolder / "data");
         scene.make(Work::CutAndReplace, trash);
-        const QString place = text(run_folder / where.toStdString());
+        const QString place = text(runFolder / where.toStdString());
         if (!run(u"chattr"_s, {u"+i"_s, place}))
             QSKIP("this file system knows no immutable files");
         Operation operation(scene.words(), scene.dataHome());
         const bool isFinished = operation.finish();
         const QString faults = scene.faults();
         if (!run(u"chattr"_s, {u"-i"_s, place}))
-            run(u"chattr"_s, {u"-R"_s, u"-i"_s, text(run_folder)});
+            run(u"chattr"_s, {u"-R"_s, u"-i"_s, text(runFolder)});
         QVERIFY(isFinished);
         QCOMPARE(faults, QString());
     }

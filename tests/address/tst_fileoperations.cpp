@@ -561,7 +561,7 @@ void TestFileOperations::namesWithPlaceholders()
                  u"Cannot copy or move the file from /%2/%1 to /%1/%2. File permission "
                  "denied.");
     });
-    FileOperations(m_chosen).showCopyError(u"/%2/%1"_s, u"/%1/%2"_s, 6);
+    FileOperations::showCopyError(u"/%2/%1"_s, u"/%1/%2"_s, 6);
 }
 
 void TestFileOperations::errorTexts_data()
@@ -586,7 +586,7 @@ void TestFileOperations::errorTexts()
         QCOMPARE(box->text(), text);
         QCOMPARE(box->standardButtons(), QMessageBox::Ok);
     });
-    FileOperations(m_chosen).showCopyError(u"/s"_s, u"/t"_s, code);
+    FileOperations::showCopyError(u"/s"_s, u"/t"_s, code);
 }
 
 // --- New folder -----------------------------------------------------------------------------

@@ -129,9 +129,9 @@ public:
                 plantOne(path);
         }
         // Only now, or nothing could be planted in them.
-        const unsigned modes[] = {0755, 0700, ::geteuid() == 0 ? 0555U : 0750U};
+        const std::array<unsigned, 3> modes = {0755, 0700, ::geteuid() == 0 ? 0555U : 0750U};
         for (const Path &folder : m_folders)
-            ::chmod(folder.c_str(), folder == m_root ? 0755U : modes[m_random.below(3)]);
+            ::chmod(folder.c_str(), folder == m_root ? 0755U : modes.at(size_t(m_random.below(3))));
     }
 
 private:
@@ -163,13 +163,13 @@ private:
         file.close();
         if (m_random.chance(10))
             fs::resize_file(path, 30000);
-        const unsigned modes[] = {0644, 0600, 0444, 0755, 04755};
-        ::chmod(path.c_str(), modes[m_random.below(5)]);
+        constexpr std::array<unsigned, 5> Modes = {0644, 0600, 0444, 0755, 04755};
+        ::chmod(path.c_str(), Modes.at(size_t(m_random.below(5))));
         // Also before 1970.
         const timespec time = {m_random.below(2'000'000'000) - 500'000'000,
                                m_random.below(1'000'000'000)};
-        const timespec times[] = {time, time};
-        ::utimensat(AT_FDCWD, path.c_str(), times, 0);
+        const std::array<timespec, 2> times = {time, time};
+        ::utimensat(AT_FDCWD, path.c_str(), times.data(), 0);
         m_files.push_back(path);
     }
 

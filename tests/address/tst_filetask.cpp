@@ -58,7 +58,7 @@ public:
     explicit WhileShown(std::function<void(Window *, int)> act)
     {
         QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this, act = std::move(act)] {
-            if (Window *window = shownWindow<Window>())
+            if (auto *window = shownWindow<Window>())
                 act(window, ++m_times);
         });
         m_timer.start(0);
@@ -80,7 +80,7 @@ public:
     int painted = 0;
 
 protected:
-    void paintEvent(QPaintEvent *) override { ++painted; }
+    void paintEvent(QPaintEvent * /*event*/) override { ++painted; }
 };
 
 /// Work that lasts until it is let go, or cancelled.
@@ -471,7 +471,7 @@ void tst_FileTask::cancelledCopyLeavesNoParts()
     write("big", QByteArray());
     QFile big(path("big"));
     QVERIFY(big.open(QFile::ReadWrite));
-    const QByteArray megabyte(1024 * 1024, 'x');
+    const QByteArray megabyte(qsizetype(1024) * 1024, 'x');
     FileOperations operations(m_selection);
     for (int i = 0; i < 64; ++i)
         big.write(megabyte);
