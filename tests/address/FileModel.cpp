@@ -28,7 +28,7 @@ QString copyName(int counter, const QString &name)
     const QString start = u"Copy_"_s + QString::number(counter) + u"_of_"_s;
     const qsizetype dot = name.lastIndexOf(u'.');
     const QString suffix = dot > 0 && name.size() - dot <= 64 ? name.mid(dot) : QString();
-    QList<uint> stem = name.left(name.size() - suffix.size()).toUcs4();
+    QList<uint> stem = QStringView(name).chopped(suffix.size()).toUcs4();
     const auto whole = [&] {
         return start
                + QString::fromUcs4(reinterpret_cast<const char32_t *>(stem.constData()),

@@ -12,6 +12,7 @@
 #include <QTest>
 
 #include <deque>
+#include <utility>
 
 namespace fs = std::filesystem;
 
@@ -240,7 +241,7 @@ std::vector<std::pair<QString, int>> tst_FileFaults::callsOfOperation()
         for (auto match = pattern.globalMatch(lines); match.hasNext();)
             ++counts[match.next().captured(1)];
         int most = 0;
-        for (const int count : counts)
+        for (const int count : std::as_const(counts))
             most = qMax(most, count);
         if (most > 0)
             calls.emplace_back(call, most);
