@@ -3,6 +3,8 @@
 
 #include "FileNameDelegate.h"
 
+#include "core/SharedIcons.h"
+
 #include <QApplication>
 #include <QFileSystemModel>
 #include <QLineEdit>
@@ -10,11 +12,7 @@
 
 namespace VornFrame {
 
-FileNameDelegate::FileNameDelegate(QObject *parent)
-    : QStyledItemDelegate(parent),
-      m_folderIcon(QApplication::style()->standardIcon(QStyle::SP_DirIcon)),
-      m_fileIcon(QApplication::style()->standardIcon(QStyle::SP_FileIcon))
-{}
+FileNameDelegate::FileNameDelegate(QObject *parent) : QStyledItemDelegate(parent) {}
 
 QWidget *FileNameDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                                         const QModelIndex &index) const
@@ -49,7 +47,8 @@ void FileNameDelegate::initStyleOption(QStyleOptionViewItem *option, const QMode
     if (!model || index.column() != 0 || !option->icon.isNull())
         return;
     option->features |= QStyleOptionViewItem::HasDecoration;
-    option->icon = model->isDir(index) ? m_folderIcon : m_fileIcon;
+    option->icon = SharedIcons::standardIcon(model->isDir(index) ? QStyle::SP_DirIcon
+                                                                 : QStyle::SP_FileIcon);
     const int size = QApplication::style()->pixelMetric(QStyle::PM_SmallIconSize, option,
                                                         option->widget);
     option->decorationSize = QSize(size, size);

@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <QIcon>
 #include <QStyledItemDelegate>
 
 namespace VornFrame {
@@ -27,9 +26,6 @@ protected:
 
 private:
     Q_DISABLE_COPY_MOVE(FileNameDelegate)
-
-    const QIcon m_folderIcon;
-    const QIcon m_fileIcon;
 };
 
 } // namespace VornFrame
