@@ -12,6 +12,7 @@
 #include <VornFrame/DockPanelWidget.h>
 #include <VornFrame/RibbonBar.h>
 #include <VornFrame/RibbonCorner.h>
+#include <VornFrame/RibbonGallery.h>
 #include <VornFrame/RibbonGroup.h>
 #include <VornFrame/RibbonPage.h>
 #include <VornFrame/RibbonSubgroup.h>

@@ -18,6 +18,13 @@ inline constexpr QLatin1StringView DownArrowNormal(":/res/downArrowNormal.svg");
 inline constexpr QLatin1StringView RightArrowNormal(":/res/rightArrowNormal.svg");
 inline constexpr QLatin1StringView Menu(":/res/menu.svg");
 
+inline constexpr QLatin1StringView Collect(":/res/collect.svg");
+inline constexpr QLatin1StringView Collected(":/res/collected.svg");
+inline constexpr QLatin1StringView Search(":/res/search.svg");
+inline constexpr QLatin1StringView Close(":/res/close.svg");
+inline constexpr QLatin1StringView ToTop(":/res/toTop.svg");
+inline constexpr QLatin1StringView ToBottom(":/res/toBottom.svg");
+
 inline constexpr QLatin1StringView AddressArrowRight(":/res/arrowRight.svg");
 inline constexpr QLatin1StringView AddressArrowDown(":/res/arrowDown.svg");
 inline constexpr QLatin1StringView Backward(":/res/backward.svg");

@@ -1,0 +1,241 @@
+// SPDX-FileCopyrightText: VornFrame contributors
+// SPDX-License-Identifier: MIT
+
+#include "RibbonGalleryGroup.h"
+
+#include "RibbonGalleryGroup_p.h"
+
+#include "core/ResourcePaths.h"
+#include "core/SharedIcons.h"
+#include "RibbonGalleryItem.h"
+#include "RibbonGalleryLayout.h"
+
+#include <QAction>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace VornFrame {
+
+namespace {
+
+constexpr QSize TitleIconSize(16, 16);
+constexpr int TitleIconMargin = 4; ///< between the icon and the title
+constexpr QMargins TitleMargins(4, 0, 4, 0);
+constexpr QMargins ItemsMargins(3, 5, 3, 5);
+
+} // namespace
+
+void RibbonGalleryGroupPrivate::init(const QIcon &icon, const QString &title)
+{
+    iconLabel->setPixmap(icon.pixmap(TitleIconSize, qGuiApp->devicePixelRatio()));
+    iconLabel->setHidden(icon.isNull());
+    iconLabel->setMinimumWidth(TitleIconSize.width() + TitleIconMargin);
+    titleLabel->setTextFormat(Qt::PlainText);
+    titleLabel->setText(title);
+    initMoveButton(toTopButton, ResourcePaths::ToTop, RibbonGalleryGroup::tr("Move to top"),
+                   RibbonGalleryGroup::Top);
+    initMoveButton(toBottomButton, ResourcePaths::ToBottom,
+                   RibbonGalleryGroup::tr("Move to bottom"), RibbonGalleryGroup::Bottom);
+
+    itemsFrame->setObjectName(u"galleryGroupFrame"_s);
+    layout = new RibbonGalleryLayout(itemsFrame, 0, 0, 0);
+    layout->setContentsMargins(ItemsMargins);
+
+    auto *column = new QVBoxLayout(q_ptr);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(createTitle());
+    column->addWidget(itemsFrame);
+}
+
+QFrame *RibbonGalleryGroupPrivate::createTitle()
+{
+    auto *frame = new QFrame(q_ptr);
+    frame->setObjectName(u"galleryGroupTitle"_s);
+    auto *row = new QHBoxLayout(frame);
+    row->setSpacing(0);
+    row->setContentsMargins(TitleMargins);
+    row->setDirection(QBoxLayout::LeftToRight);
+    row->addWidget(iconLabel);
+    row->addWidget(titleLabel);
+    row->addStretch(1);
+    row->addWidget(toTopButton);
+    row->addWidget(toBottomButton);
+    return frame;
+}
+
+void RibbonGalleryGroupPrivate::initMoveButton(QPushButton *button, QLatin1StringView icon,
+                                               const QString &text,
+                                               RibbonGalleryGroup::Position position) const
+{
+    button->setIcon(SharedIcons::icon(icon));
+    button->setIconSize(TitleIconSize);
+    button->setAutoDefault(false);
+    button->setAccessibleName(text);
+    button->setToolTip(text);
+    QObject::connect(button, &QPushButton::clicked, q_ptr,
+                     [this, position] { Q_EMIT q_ptr->signalPositionChange(position); });
+}
+
+qsizetype RibbonGalleryGroupPrivate::indexOf(const QAction *action) const
+{
+    const auto isOfAction = [action](const RibbonGalleryItem *tile) {
+        return tile->defaultAction() == action;
+    };
+    const auto found = std::find_if(items.cbegin(), items.cend(), isOfAction);
+    return found == items.cend() ? -1 : std::distance(items.cbegin(), found);
+}
+
+RibbonGalleryGroup::RibbonGalleryGroup(const QIcon &icon, const QString &title, QWidget *parent)
+    : QFrame(parent), d_ptr(new RibbonGalleryGroupPrivate)
+{
+    Q_D(RibbonGalleryGroup);
+    d->q_ptr = this;
+    d->init(icon, title);
+}
+
+RibbonGalleryGroup::~RibbonGalleryGroup() = default;
+
+int RibbonGalleryGroup::addItem(QAction *action, const QSize &iconSize, const QSize &size,
+                                bool collectEnabled)
+{
+    Q_D(RibbonGalleryGroup);
+    auto *tile = new RibbonGalleryItem(action, d->itemsFrame);
+    tile->setTilePolishedLate();
+    tile->setIconSize(iconSize);
+    tile->setFixedSize(size);
+    tile->setCollectEnabled(collectEnabled);
+    d->items.append(tile);
+    d->layout->addWidget(tile);
+    return count() - 1;
+}
+
+int RibbonGalleryGroup::count() const
+{
+    Q_D(const RibbonGalleryGroup);
+    return static_cast<int>(d->items.size());
+}
+
+RibbonGalleryItem *RibbonGalleryGroup::item(int index) const
+{
+    Q_D(const RibbonGalleryGroup);
+    return index >= 0 && index < count() ? d->items.at(index) : nullptr;
+}
+
+bool RibbonGalleryGroup::isItemCollected(int index) const
+{
+    const RibbonGalleryItem *tile = item(index);
+    return tile && tile->isCollected();
+}
+
+bool RibbonGalleryGroup::setItemCollected(int index, bool collected)
+{
+    RibbonGalleryItem *tile = item(index);
+    if (tile)
+        tile->setCollected(collected);
+    return tile != nullptr;
+}
+
+bool RibbonGalleryGroup::setItemCollected(const QAction *action, bool collected)
+{
+    Q_D(RibbonGalleryGroup);
+    return setItemCollected(static_cast<int>(d->indexOf(action)), collected);
+}
+
+bool RibbonGalleryGroup::removeItem(const QAction *action)
+{
+    Q_D(RibbonGalleryGroup);
+    return removeItem(item(static_cast<int>(d->indexOf(action))));
+}
+
+bool RibbonGalleryGroup::removeItem(RibbonGalleryItem *item)
+{
+    Q_D(RibbonGalleryGroup);
+    if (!d->items.removeOne(item))
+        return false;
+    d->layout->removeWidget(item);
+    item->hide();
+    item->deleteLater();
+    return true;
+}
+
+void RibbonGalleryGroup::setItemVisible(int index, bool visible)
+{
+    if (RibbonGalleryItem *tile = item(index))
+        tile->setVisible(visible);
+}
+
+bool RibbonGalleryGroup::showMatches(const QString &text)
+{
+    Q_D(RibbonGalleryGroup);
+    bool matched = false;
+    QList<RibbonGalleryItem *> changed;
+    for (RibbonGalleryItem *tile : std::as_const(d->items)) {
+        const bool matches = tile->text().contains(text, Qt::CaseSensitive);
+        matched = matched || matches;
+        if (matches == tile->isHidden())
+            changed.append(tile);
+    }
+    // Below a hidden frame tiles change without a layout, an event and a region to repaint for each.
+    if (!changed.isEmpty())
+        d->itemsFrame->hide();
+    for (RibbonGalleryItem *tile : std::as_const(changed))
+        tile->setVisible(tile->isHidden());
+    setVisible(matched);
+    d->itemsFrame->show();
+    return matched;
+}
+
+QList<RibbonGalleryItem *> RibbonGalleryGroup::reachableItems() const
+{
+    Q_D(const RibbonGalleryGroup);
+    QList<RibbonGalleryItem *> tiles;
+    if (isHidden())
+        return tiles;
+    for (RibbonGalleryItem *tile : d->items) {
+        if (!tile->isHidden() && tile->isEnabled())
+            tiles.append(tile);
+    }
+    return tiles;
+}
+
+QList<QWidget *> RibbonGalleryGroup::keyboardStops() const
+{
+    Q_D(const RibbonGalleryGroup);
+    QList<QWidget *> stops;
+    if (isHidden())
+        return stops;
+    for (QPushButton *button : {d->toTopButton, d->toBottomButton}) {
+        if (!button->isHidden())
+            stops.append(button);
+    }
+    const QList<RibbonGalleryItem *> tiles = reachableItems();
+    if (!tiles.isEmpty())
+        stops.append(tiles.first());
+    return stops;
+}
+
+void RibbonGalleryGroup::setPosition(Position position)
+{
+    Q_D(RibbonGalleryGroup);
+    d->toTopButton->setVisible(position >= Middle);
+    d->toBottomButton->setVisible(position != Fixed && position != Bottom);
+}
+
+QString RibbonGalleryGroup::title() const
+{
+    Q_D(const RibbonGalleryGroup);
+    return d->titleLabel->text();
+}
+
+void RibbonGalleryGroup::updateLayout()
+{
+    Q_D(RibbonGalleryGroup);
+    d->layout->update();
+}
+
+} // namespace VornFrame

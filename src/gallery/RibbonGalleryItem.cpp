@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: VornFrame contributors
+// SPDX-License-Identifier: MIT
+
+#include "RibbonGalleryItem.h"
+
+#include "RibbonGalleryItem_p.h"
+
+#include "core/ResourcePaths.h"
+#include "core/SharedIcons.h"
+
+#include <QKeyEvent>
+#include <QStyle>
+#include <QStyleOptionToolButton>
+
+using namespace Qt::StringLiterals;
+
+namespace VornFrame {
+
+namespace {
+
+constexpr QSize TileIconSize(24, 24);
+constexpr QSize StarIconSize(16, 16);
+constexpr QSize StarSize(18, 18); ///< the icon and its border
+constexpr int TextMargin = 3; ///< beside a shortened text
+
+} // namespace
+
+void RibbonGalleryItemPrivate::init(QAction *action)
+{
+    initCollectButton();
+    q_ptr->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    q_ptr->setIconSize(TileIconSize);
+    q_ptr->setDefaultAction(action);
+    QObject::connect(collectButton, &QToolButton::clicked, collectButton, [this] {
+        collected = !collected;
+        updateState();
+    });
+    updateState();
+}
+
+void RibbonGalleryItemPrivate::initCollectButton()
+{
+    collectButton->setCheckable(true);
+    collectButton->hide();
+    collectButton->setObjectName(u"collectedButton"_s);
+    collectButton->setParent(q_ptr);
+    collectButton->setIconSize(StarIconSize);
+    // A tile is one stop of the keyboard, with a key of its own for the star.
+    collectButton->setFocusPolicy(Qt::NoFocus);
+    collectButton->setAccessibleName(RibbonGalleryItem::tr("Favorite"));
+    collectButton->setToolTip(RibbonGalleryItem::tr("Favorite"));
+    collectButton->resize(StarSize);
+}
+
+void RibbonGalleryItemPrivate::updateState()
+{
+    collectButton->setIcon(
+        SharedIcons::icon(collected ? ResourcePaths::Collected : ResourcePaths::Collect));
+    collectButton->setVisible(collected);
+    Q_EMIT q_ptr->signalCollected(collected);
+}
+
+void RibbonGalleryItemPrivate::placeCollectButton()
+{
+    const QRect leading(QPoint(0, 0), collectButton->size());
+    collectButton->move(
+        QStyle::visualRect(q_ptr->layoutDirection(), q_ptr->rect(), leading).topLeft());
+}
+
+bool RibbonGalleryItemPrivate::hasFixedSize() const
+{
+    return q_ptr->minimumSize() == q_ptr->maximumSize();
+}
+
+RibbonGalleryItem::RibbonGalleryItem(QAction *action, QWidget *parent)
+    : LateToolButton(parent), d_ptr(new RibbonGalleryItemPrivate)
+{
+    Q_D(RibbonGalleryItem);
+    d->q_ptr = this;
+    d->init(action);
+}
+
+RibbonGalleryItem::~RibbonGalleryItem() = default;
+
+void RibbonGalleryItem::setCollectEnabled(bool on)
+{
+    Q_D(RibbonGalleryItem);
+    d->collectEnabled = on;
+    if (!on)
+        d->collectButton->hide();
+}
+
+bool RibbonGalleryItem::isCollected() const
+{
+    Q_D(const RibbonGalleryItem);
+    return d->collected;
+}
+
+void RibbonGalleryItem::setCollected(bool on)
+{
+    Q_D(RibbonGalleryItem);
+    d->collected = on;
+    d->updateState();
+}
+
+void RibbonGalleryItem::toggleCollected()
+{
+    Q_D(RibbonGalleryItem);
+    if (d->collectEnabled)
+        d->collectButton->click();
+}
+
+void RibbonGalleryItem::setTilePolishedLate()
+{
+    Q_D(RibbonGalleryItem);
+    setPolishedLate();
+    d->collectButton->setPolishedLate();
+}
+
+QSize RibbonGalleryItem::sizeHint() const
+{
+    Q_D(const RibbonGalleryItem);
+    return d->hasFixedSize() ? minimumSize() : QToolButton::sizeHint();
+}
+
+void RibbonGalleryItem::enterEvent(QEnterEvent *event)
+{
+    Q_D(RibbonGalleryItem);
+    if (d->collectEnabled)
+        d->collectButton->show();
+    LateToolButton::enterEvent(event);
+}
+
+void RibbonGalleryItem::leaveEvent(QEvent *event)
+{
+    Q_D(RibbonGalleryItem);
+    // Only a favourite keeps its star; whether collecting is allowed is deliberately not asked.
+    if (!d->collected)
+        d->collectButton->hide();
+    LateToolButton::leaveEvent(event);
+}
+
+void RibbonGalleryItem::changeEvent(QEvent *event)
+{
+    Q_D(RibbonGalleryItem);
+    LateToolButton::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        d->placeCollectButton();
+}
+
+void RibbonGalleryItem::keyPressEvent(QKeyEvent *event)
+{
+    // All keys but the one that presses a button are for the gallery around: it knows the neighbours.
+    if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier)
+        LateToolButton::keyPressEvent(event);
+    else
+        event->ignore();
+}
+
+void RibbonGalleryItem::resizeEvent(QResizeEvent *event)
+{
+    Q_D(RibbonGalleryItem);
+    LateToolButton::resizeEvent(event);
+    d->placeCollectButton();
+}
+
+void RibbonGalleryItem::initStyleOption(QStyleOptionToolButton *option) const
+{
+    Q_D(const RibbonGalleryItem);
+    QToolButton::initStyleOption(option);
+    // A style would cut a text that is too long at both ends.
+    if (option && d->hasFixedSize())
+        option->text = option->fontMetrics.elidedText(
+            option->text, Qt::ElideRight, width() - 2 * TextMargin, Qt::TextShowMnemonic);
+}
+
+} // namespace VornFrame

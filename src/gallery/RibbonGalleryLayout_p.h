@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: VornFrame contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QList>
+#include <QStyle>
+
+class QLayoutItem;
+class QRect;
+
+namespace VornFrame {
+
+class RibbonGalleryLayout;
+
+class RibbonGalleryLayoutPrivate
+{
+public:
+    int doLayout(const QRect &rect, bool testOnly) const;
+    int smartSpacing(QStyle::PixelMetric metric) const;
+    int spacingBeside(const QLayoutItem *item, Qt::Orientation orientation) const;
+
+    QList<QLayoutItem *> items; ///< owned
+    int hSpace = 0;
+    int vSpace = 0;
+    RibbonGalleryLayout *q_ptr = nullptr;
+};
+
+} // namespace VornFrame
