@@ -4,10 +4,15 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QEvent>
 #include <QWidget>
 
 #include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <functional>
+#include <vector>
 
 /// Notices when the window that it watches has been painted.
 class PaintWatcher : public QObject
@@ -37,4 +42,39 @@ private:
 inline void timed(benchmark::internal::Benchmark *benchmark)
 {
     benchmark->UseManualTime()->Unit(benchmark::kMillisecond);
+}
+
+inline double median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+inline double seconds(const std::function<void()> &work)
+{
+    QElapsedTimer timer;
+    timer.start();
+    work();
+    constexpr double NanosecondsPerSecond = 1e9;
+    return double(timer.nsecsElapsed()) / NanosecondsPerSecond;
+}
+
+/// Measures \a ours and \a baseline in turn, after \a prepare each time. The counter "ratio" is that
+/// of the two medians.
+inline void sideBySide(benchmark::State &state, const std::function<void()> &prepare,
+                       const std::function<void()> &ours, const std::function<void()> &baseline)
+{
+    std::vector<double> own;
+    std::vector<double> other;
+    for (auto _ : state) {
+        prepare();
+        other.push_back(seconds(baseline));
+        prepare();
+        own.push_back(seconds(ours));
+        state.SetIterationTime(own.back());
+    }
+    constexpr double MillisecondsPerSecond = 1000;
+    state.counters["median_ms"] = median(own) * MillisecondsPerSecond;
+    state.counters["baseline_ms"] = median(other) * MillisecondsPerSecond;
+    state.counters["ratio"] = median(own) / median(other);
 }

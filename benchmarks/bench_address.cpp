@@ -14,7 +14,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QKeyEvent>
 #include <QMenu>
@@ -28,10 +27,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include <algorithm>
-#include <functional>
 #include <memory>
-#include <vector>
 
 #include <unistd.h>
 
@@ -48,40 +44,6 @@ constexpr qint64 Mebibyte = qint64(1024) * 1024;
 constexpr int BigFileMebibytes = 1024;
 constexpr int Depth = 12;
 constexpr int Navigations = 500;
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
-double seconds(const std::function<void()> &work)
-{
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    constexpr double NanosecondsPerSecond = 1e9;
-    return double(timer.nsecsElapsed()) / NanosecondsPerSecond;
-}
-
-/// Measures \a ours and \a baseline in turn, after \a prepare each time.
-void sideBySide(benchmark::State &state, const std::function<void()> &prepare,
-                const std::function<void()> &ours, const std::function<void()> &baseline)
-{
-    std::vector<double> own;
-    std::vector<double> other;
-    for (auto _ : state) {
-        prepare();
-        other.push_back(seconds(baseline));
-        prepare();
-        own.push_back(seconds(ours));
-        state.SetIterationTime(own.back());
-    }
-    constexpr double MillisecondsPerSecond = 1000;
-    state.counters["median_ms"] = median(own) * MillisecondsPerSecond;
-    state.counters["baseline_ms"] = median(other) * MillisecondsPerSecond;
-    state.counters["ratio"] = median(own) / median(other);
-}
 
 /// The files that the cases work on, made once. Their trash lies among them.
 class Files

@@ -158,6 +158,7 @@ void RibbonGalleryPrivate::openPopup()
     const int needed = popup->contentHeight(true);
     popup->verticalScrollBar()->setValue(0);
     fitMenu(needed, needed);
+    popup->prepareToShow();
     popupMenu->popup(q_ptr->mapToGlobal(QPoint(0, 0)));
     // A menu would keep away from the edge of the screen; this one covers the strip. Its content
     // has settled by now.
@@ -203,7 +204,14 @@ RibbonGallery::RibbonGallery(RibbonGalleryPrivate &d, QWidget *parent) : QWidget
     d.q_ptr = this;
 }
 
-RibbonGallery::~RibbonGallery() = default;
+RibbonGallery::~RibbonGallery()
+{
+    Q_D(RibbonGallery);
+    // An open popup speaks up when it is hidden, tiles when their actions go, which may be children
+    // of the gallery: all that has to happen while there is someone to listen.
+    delete d->popupMenu;
+    delete d->itemsFrame;
+}
 
 int RibbonGallery::addGroup(const QString &name)
 {

@@ -24,8 +24,16 @@ namespace {
 
 constexpr QSize TitleIconSize(16, 16);
 constexpr int TitleIconMargin = 4; ///< between the icon and the title
+constexpr int TitleHeight = 24;
 constexpr QMargins TitleMargins(4, 0, 4, 0);
 constexpr QMargins ItemsMargins(3, 5, 3, 5);
+
+/// Only where it changes something: each time costs a layout.
+void setShown(QWidget *widget, bool shown)
+{
+    if (widget->isHidden() == shown)
+        widget->setVisible(shown);
+}
 
 } // namespace
 
@@ -41,22 +49,32 @@ void RibbonGalleryGroupPrivate::init(const QIcon &icon, const QString &title)
     initMoveButton(toBottomButton, ResourcePaths::ToBottom,
                    RibbonGalleryGroup::tr("Move to bottom"), RibbonGalleryGroup::Bottom);
 
+    initTitle();
     itemsFrame->setObjectName(u"galleryGroupFrame"_s);
     layout = new RibbonGalleryLayout(itemsFrame, 0, 0, 0);
     layout->setContentsMargins(ItemsMargins);
 
+    titleFrame->setPolishedLate();
+    itemsFrame->setPolishedLate();
+    for (LateStyled<QLabel> *label : {iconLabel, titleLabel})
+        label->setPolishedLate();
+    for (LateStyled<QPushButton> *button : {toTopButton, toBottomButton})
+        button->setPolishedLate();
+    q_ptr->setPolishedLate();
+
     auto *column = new QVBoxLayout(q_ptr);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(createTitle());
+    column->addWidget(titleFrame);
     column->addWidget(itemsFrame);
 }
 
-QFrame *RibbonGalleryGroupPrivate::createTitle()
+void RibbonGalleryGroupPrivate::initTitle()
 {
-    auto *frame = new QFrame(q_ptr);
-    frame->setObjectName(u"galleryGroupTitle"_s);
-    auto *row = new QHBoxLayout(frame);
+    titleFrame->setObjectName(u"galleryGroupTitle"_s);
+    // As in the style sheet, which a group that has not been painted does not know yet.
+    titleFrame->setFixedHeight(TitleHeight);
+    auto *row = new QHBoxLayout(titleFrame);
     row->setSpacing(0);
     row->setContentsMargins(TitleMargins);
     row->setDirection(QBoxLayout::LeftToRight);
@@ -65,7 +83,21 @@ QFrame *RibbonGalleryGroupPrivate::createTitle()
     row->addStretch(1);
     row->addWidget(toTopButton);
     row->addWidget(toBottomButton);
-    return frame;
+}
+
+/// Before the group is first painted. All at once, so that its title does not move afterwards.
+void RibbonGalleryGroupPrivate::polishParts() const
+{
+    if (titleFrame->isPolished())
+        return;
+    titleFrame->polishNow();
+    itemsFrame->polishNow();
+    for (LateStyled<QLabel> *label : {iconLabel, titleLabel})
+        label->polishNow();
+    for (LateStyled<QPushButton> *button : {toTopButton, toBottomButton})
+        button->polishNow();
+    titleFrame->updateGeometry();
+    titleFrame->layout()->activate();
 }
 
 void RibbonGalleryGroupPrivate::initMoveButton(QPushButton *button, QLatin1StringView icon,
@@ -91,7 +123,7 @@ qsizetype RibbonGalleryGroupPrivate::indexOf(const QAction *action) const
 }
 
 RibbonGalleryGroup::RibbonGalleryGroup(const QIcon &icon, const QString &title, QWidget *parent)
-    : QFrame(parent), d_ptr(new RibbonGalleryGroupPrivate)
+    : LateStyled(parent), d_ptr(new RibbonGalleryGroupPrivate)
 {
     Q_D(RibbonGalleryGroup);
     d->q_ptr = this;
@@ -104,7 +136,9 @@ int RibbonGalleryGroup::addItem(QAction *action, const QSize &iconSize, const QS
                                 bool collectEnabled)
 {
     Q_D(RibbonGalleryGroup);
-    auto *tile = new RibbonGalleryItem(action, d->itemsFrame);
+    // Without a parent at first: a tool button asks the style when it is made, and below a style
+    // sheet that is a search through all rules.
+    auto *tile = new RibbonGalleryItem(action, nullptr);
     tile->setTilePolishedLate();
     tile->setIconSize(iconSize);
     tile->setFixedSize(size);
@@ -173,20 +207,16 @@ bool RibbonGalleryGroup::showMatches(const QString &text)
 {
     Q_D(RibbonGalleryGroup);
     bool matched = false;
-    QList<RibbonGalleryItem *> changed;
+    // Each tile that comes or goes would have all others placed.
+    d->layout->setEnabled(false);
     for (RibbonGalleryItem *tile : std::as_const(d->items)) {
         const bool matches = tile->text().contains(text, Qt::CaseSensitive);
         matched = matched || matches;
         if (matches == tile->isHidden())
-            changed.append(tile);
+            tile->setVisible(matches);
     }
-    // Below a hidden frame tiles change without a layout, an event and a region to repaint for each.
-    if (!changed.isEmpty())
-        d->itemsFrame->hide();
-    for (RibbonGalleryItem *tile : std::as_const(changed))
-        tile->setVisible(tile->isHidden());
+    d->layout->setEnabled(true);
     setVisible(matched);
-    d->itemsFrame->show();
     return matched;
 }
 
@@ -222,8 +252,8 @@ QList<QWidget *> RibbonGalleryGroup::keyboardStops() const
 void RibbonGalleryGroup::setPosition(Position position)
 {
     Q_D(RibbonGalleryGroup);
-    d->toTopButton->setVisible(position >= Middle);
-    d->toBottomButton->setVisible(position != Fixed && position != Bottom);
+    setShown(d->toTopButton, position >= Middle);
+    setShown(d->toBottomButton, position != Fixed && position != Bottom);
 }
 
 QString RibbonGalleryGroup::title() const
@@ -236,6 +266,13 @@ void RibbonGalleryGroup::updateLayout()
 {
     Q_D(RibbonGalleryGroup);
     d->layout->update();
+}
+
+void RibbonGalleryGroup::paintEvent(QPaintEvent *event)
+{
+    Q_D(RibbonGalleryGroup);
+    d->polishParts();
+    LateStyled::paintEvent(event);
 }
 
 } // namespace VornFrame

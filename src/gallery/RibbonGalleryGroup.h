@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "LateStyled.h"
+
 #include <QFrame>
 
 #include <memory>
@@ -17,7 +19,7 @@ class RibbonGalleryItem;
 
 /// A titled group of tiles in the popup of a gallery, which the user can move to the top or to the
 /// bottom of the list. Its layout places the tiles in rows.
-class RibbonGalleryGroup : public QFrame
+class RibbonGalleryGroup : public LateStyled<QFrame>
 {
     Q_OBJECT
 
@@ -80,6 +82,9 @@ Q_SIGNALS:
     void signalCollect(VornFrame::RibbonGalleryItem *item, bool collected);
     /// The user asks for the group to be moved to the top or to the bottom.
     void signalPositionChange(VornFrame::RibbonGalleryGroup::Position position);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     Q_DECLARE_PRIVATE(RibbonGalleryGroup)

@@ -12,22 +12,37 @@ namespace VornFrame {
 
 class RibbonGalleryLayout;
 
+/// The title of a group. Until it is polished it does not ask its parts how large they would be.
+class RibbonGalleryTitle : public LateStyled<QFrame>
+{
+public:
+    using LateStyled::LateStyled;
+
+    QSize sizeHint() const override { return isPolished() ? QFrame::sizeHint() : minimumSize(); }
+    QSize minimumSizeHint() const override
+    {
+        return isPolished() ? QFrame::minimumSizeHint() : minimumSize();
+    }
+};
+
 class RibbonGalleryGroupPrivate
 {
 public:
     void init(const QIcon &icon, const QString &title);
-    QFrame *createTitle();
+    void initTitle();
+    void polishParts() const;
     void initMoveButton(QPushButton *button, QLatin1StringView icon, const QString &text,
                         RibbonGalleryGroup::Position position) const;
     qsizetype indexOf(const QAction *action) const;
 
     QList<RibbonGalleryItem *> items; ///< in order
-    QLabel *iconLabel = new QLabel;
-    QLabel *titleLabel = new QLabel;
-    QFrame *itemsFrame = new QFrame;
+    LateStyled<QLabel> *iconLabel = new LateStyled<QLabel>;
+    LateStyled<QLabel> *titleLabel = new LateStyled<QLabel>;
+    RibbonGalleryTitle *titleFrame = new RibbonGalleryTitle;
+    LateStyled<QFrame> *itemsFrame = new LateStyled<QFrame>;
     RibbonGalleryLayout *layout = nullptr; ///< of the frame
-    QPushButton *toTopButton = new QPushButton;
-    QPushButton *toBottomButton = new QPushButton;
+    LateStyled<QPushButton> *toTopButton = new LateStyled<QPushButton>;
+    LateStyled<QPushButton> *toBottomButton = new LateStyled<QPushButton>;
     RibbonGalleryGroup *q_ptr = nullptr;
 };
 

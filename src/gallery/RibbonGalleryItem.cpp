@@ -25,6 +25,10 @@ constexpr int TextMargin = 3; ///< beside a shortened text
 
 } // namespace
 
+RibbonGalleryItemPrivate::RibbonGalleryItemPrivate(RibbonGalleryItem *q)
+    : collectButton(new LateStyled<QToolButton>(q)), q_ptr(q)
+{}
+
 void RibbonGalleryItemPrivate::init(QAction *action)
 {
     initCollectButton();
@@ -43,12 +47,9 @@ void RibbonGalleryItemPrivate::initCollectButton()
     collectButton->setCheckable(true);
     collectButton->hide();
     collectButton->setObjectName(u"collectedButton"_s);
-    collectButton->setParent(q_ptr);
     collectButton->setIconSize(StarIconSize);
     // A tile is one stop of the keyboard, with a key of its own for the star.
     collectButton->setFocusPolicy(Qt::NoFocus);
-    collectButton->setAccessibleName(RibbonGalleryItem::tr("Favorite"));
-    collectButton->setToolTip(RibbonGalleryItem::tr("Favorite"));
     collectButton->resize(StarSize);
 }
 
@@ -56,8 +57,21 @@ void RibbonGalleryItemPrivate::updateState()
 {
     collectButton->setIcon(
         SharedIcons::icon(collected ? ResourcePaths::Collected : ResourcePaths::Collect));
-    collectButton->setVisible(collected);
+    if (collected)
+        showCollectButton();
+    else
+        collectButton->hide();
     Q_EMIT q_ptr->signalCollected(collected);
+}
+
+/// Names the star too: most stars are never seen, and a name costs as much as the rest of them.
+void RibbonGalleryItemPrivate::showCollectButton()
+{
+    if (collectButton->accessibleName().isEmpty()) {
+        collectButton->setAccessibleName(RibbonGalleryItem::tr("Favorite"));
+        collectButton->setToolTip(RibbonGalleryItem::tr("Favorite"));
+    }
+    collectButton->show();
 }
 
 void RibbonGalleryItemPrivate::placeCollectButton()
@@ -73,10 +87,9 @@ bool RibbonGalleryItemPrivate::hasFixedSize() const
 }
 
 RibbonGalleryItem::RibbonGalleryItem(QAction *action, QWidget *parent)
-    : LateToolButton(parent), d_ptr(new RibbonGalleryItemPrivate)
+    : LateStyled(parent), d_ptr(new RibbonGalleryItemPrivate(this))
 {
     Q_D(RibbonGalleryItem);
-    d->q_ptr = this;
     d->init(action);
 }
 
@@ -127,8 +140,8 @@ void RibbonGalleryItem::enterEvent(QEnterEvent *event)
 {
     Q_D(RibbonGalleryItem);
     if (d->collectEnabled)
-        d->collectButton->show();
-    LateToolButton::enterEvent(event);
+        d->showCollectButton();
+    LateStyled::enterEvent(event);
 }
 
 void RibbonGalleryItem::leaveEvent(QEvent *event)
@@ -137,13 +150,13 @@ void RibbonGalleryItem::leaveEvent(QEvent *event)
     // Only a favourite keeps its star; whether collecting is allowed is deliberately not asked.
     if (!d->collected)
         d->collectButton->hide();
-    LateToolButton::leaveEvent(event);
+    LateStyled::leaveEvent(event);
 }
 
 void RibbonGalleryItem::changeEvent(QEvent *event)
 {
     Q_D(RibbonGalleryItem);
-    LateToolButton::changeEvent(event);
+    LateStyled::changeEvent(event);
     if (event->type() == QEvent::LayoutDirectionChange)
         d->placeCollectButton();
 }
@@ -152,7 +165,7 @@ void RibbonGalleryItem::keyPressEvent(QKeyEvent *event)
 {
     // All keys but the one that presses a button are for the gallery around: it knows the neighbours.
     if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier)
-        LateToolButton::keyPressEvent(event);
+        LateStyled::keyPressEvent(event);
     else
         event->ignore();
 }
@@ -160,7 +173,7 @@ void RibbonGalleryItem::keyPressEvent(QKeyEvent *event)
 void RibbonGalleryItem::resizeEvent(QResizeEvent *event)
 {
     Q_D(RibbonGalleryItem);
-    LateToolButton::resizeEvent(event);
+    LateStyled::resizeEvent(event);
     d->placeCollectButton();
 }
 

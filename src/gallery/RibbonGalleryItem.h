@@ -3,7 +3,9 @@
 
 #pragma once
 
-#include "LateToolButton.h"
+#include "LateStyled.h"
+
+#include <QToolButton>
 
 #include <memory>
 
@@ -15,7 +17,7 @@ class RibbonGalleryItemPrivate;
 
 /// A tile of a gallery: the icon of an action above its text, and where collecting is allowed a star
 /// in its leading top corner that marks the action as a favourite.
-class RibbonGalleryItem : public LateToolButton
+class RibbonGalleryItem : public LateStyled<QToolButton>
 {
     Q_OBJECT
 

@@ -3,7 +3,9 @@
 
 #pragma once
 
-#include "LateToolButton.h"
+#include "LateStyled.h"
+
+#include <QToolButton>
 
 namespace VornFrame {
 
@@ -12,16 +14,19 @@ class RibbonGalleryItem;
 class RibbonGalleryItemPrivate
 {
 public:
+    explicit RibbonGalleryItemPrivate(RibbonGalleryItem *q);
+
     void init(QAction *action);
     void initCollectButton();
     void updateState();
+    void showCollectButton();
     void placeCollectButton();
     bool hasFixedSize() const;
 
-    LateToolButton *collectButton = new LateToolButton;
+    LateStyled<QToolButton> *const collectButton;
     bool collected = false;
     bool collectEnabled = false;
-    RibbonGalleryItem *q_ptr = nullptr;
+    RibbonGalleryItem *const q_ptr;
 };
 
 } // namespace VornFrame

@@ -168,7 +168,19 @@ bool RibbonGalleryLayout::hasHeightForWidth() const
 int RibbonGalleryLayout::heightForWidth(int width) const
 {
     Q_D(const RibbonGalleryLayout);
-    return d->doLayout(QRect(0, 0, width, 0), true);
+    // A layout around asks several times in a row.
+    if (d->askedWidth != width) {
+        d->askedHeight = d->doLayout(QRect(0, 0, width, 0), true);
+        d->askedWidth = width;
+    }
+    return d->askedHeight;
+}
+
+void RibbonGalleryLayout::invalidate()
+{
+    Q_D(RibbonGalleryLayout);
+    d->askedWidth = RibbonGalleryLayoutPrivate::NotAsked;
+    QLayout::invalidate();
 }
 
 } // namespace VornFrame

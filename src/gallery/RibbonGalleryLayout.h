@@ -39,6 +39,7 @@ public:
     void setGeometry(const QRect &rect) override;
     bool hasHeightForWidth() const override;
     int heightForWidth(int width) const override;
+    void invalidate() override;
 
 private:
     Q_DECLARE_PRIVATE(RibbonGalleryLayout)

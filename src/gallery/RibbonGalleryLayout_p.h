@@ -6,6 +6,8 @@
 #include <QList>
 #include <QStyle>
 
+#include <limits>
+
 class QLayoutItem;
 class QRect;
 
@@ -16,6 +18,8 @@ class RibbonGalleryLayout;
 class RibbonGalleryLayoutPrivate
 {
 public:
+    static constexpr int NotAsked = std::numeric_limits<int>::min(); ///< no width
+
     int doLayout(const QRect &rect, bool testOnly) const;
     int smartSpacing(QStyle::PixelMetric metric) const;
     int spacingBeside(const QLayoutItem *item, Qt::Orientation orientation) const;
@@ -23,6 +27,8 @@ public:
     QList<QLayoutItem *> items; ///< owned
     int hSpace = 0;
     int vSpace = 0;
+    mutable int askedWidth = NotAsked; ///< that askedHeight is for
+    mutable int askedHeight = 0;
     RibbonGalleryLayout *q_ptr = nullptr;
 };
 

@@ -176,8 +176,8 @@ void RibbonGalleryPopupPrivate::dropWithAction(RibbonGalleryGroup *group, Ribbon
 
 void RibbonGalleryPopupPrivate::search(const QString &text)
 {
-    // Nothing is placed or painted before all groups have settled.
-    contentFrame->setUpdatesEnabled(false);
+    // Nothing is placed before all groups have settled, and so nothing is painted before. (To turn
+    // updates off would go through all tiles, twice.)
     contentFrame->layout()->setEnabled(false);
     bool noMatch = true;
     if (collectEnabled && collectedGroup->showMatches(text))
@@ -190,7 +190,6 @@ void RibbonGalleryPopupPrivate::search(const QString &text)
     contentFrame->layout()->setEnabled(true);
     q_ptr->updateHeight();
     contentFrame->layout()->activate();
-    contentFrame->setUpdatesEnabled(true);
 }
 
 /// What the rows of \a group need beyond the first; an empty group has one row.
@@ -214,6 +213,13 @@ int RibbonGalleryPopupPrivate::sumHeights(bool all) const
             height += GroupHeight + extraHeight(group);
     }
     return height == SearchRowHeight ? SearchRowHeight + NoMatchHeight : height;
+}
+
+/// At that \a height, and beside a scroll bar where the popup is lower.
+int RibbonGalleryPopupPrivate::contentWidth(int height) const
+{
+    const int scrollBar = height > q_ptr->height() ? RibbonGalleryMetrics::ScrollBarWidth : 0;
+    return std::max(0, q_ptr->width() - scrollBar);
 }
 
 RibbonGalleryPopup::RibbonGalleryPopup(QWidget *parent)
@@ -328,9 +334,15 @@ void RibbonGalleryPopup::updateHeight()
     const int height = d->sumHeights(false);
     d->contentFrame->setFixedHeight(height);
     Q_EMIT signalHeightChanged(height);
-    const int scrollBar = height > this->height() ? RibbonGalleryMetrics::ScrollBarWidth : 0;
-    d->contentFrame->setFixedWidth(std::max(0, width() - scrollBar));
+    d->contentFrame->setFixedWidth(d->contentWidth(height));
     d->collectedGroup->updateLayout();
+}
+
+void RibbonGalleryPopup::prepareToShow()
+{
+    Q_D(RibbonGalleryPopup);
+    const int height = d->sumHeights(true);
+    d->contentFrame->setFixedSize(d->contentWidth(height), height);
 }
 
 void RibbonGalleryPopup::focusSearch()

@@ -60,6 +60,10 @@ public:
     /// Gives the content the height that the visible groups need; emits signalHeightChanged().
     void updateHeight();
 
+    /// Gives the content the size that it will have when it is shown as large as the popup is now, so
+    /// that its tiles are placed once.
+    void prepareToShow();
+
     /// Puts the keyboard's focus into the search field.
     void focusSearch();
 

@@ -48,6 +48,7 @@ public:
     void search(const QString &text);
     int extraHeight(const RibbonGalleryGroup *group) const;
     int sumHeights(bool all) const;
+    int contentWidth(int height) const;
 
     QWidget *focused() const;
     void focus(QWidget *widget, Qt::FocusReason reason);
