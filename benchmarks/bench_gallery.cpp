@@ -281,6 +281,7 @@ void search(benchmark::State &state, const QString &before, const QString &after
     sideBySide(
         state,
         [&] {
+            QCoreApplication::processEvents();
             gallery.search(before);
             QCoreApplication::processEvents();
         },

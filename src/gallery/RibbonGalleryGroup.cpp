@@ -107,6 +107,8 @@ void RibbonGalleryGroupPrivate::initMoveButton(QPushButton *button, QLatin1Strin
     button->setIcon(SharedIcons::icon(icon));
     button->setIconSize(TitleIconSize);
     button->setAutoDefault(false);
+    // A click leaves the focus in the search field.
+    button->setFocusPolicy(Qt::TabFocus);
     button->setAccessibleName(text);
     button->setToolTip(text);
     QObject::connect(button, &QPushButton::clicked, q_ptr,

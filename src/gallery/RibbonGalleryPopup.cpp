@@ -77,6 +77,7 @@ void RibbonGalleryPopupPrivate::initSearchRow()
     closeButton->setIcon(SharedIcons::icon(ResourcePaths::Close));
     closeButton->setIconSize(CloseIconSize);
     closeButton->setAutoDefault(false);
+    closeButton->setFocusPolicy(Qt::TabFocus);
     closeButton->setAccessibleName(RibbonGalleryPopup::tr("Close"));
     closeButton->setToolTip(RibbonGalleryPopup::tr("Close"));
     QObject::connect(closeButton, &QPushButton::clicked, q_ptr, [this] {
