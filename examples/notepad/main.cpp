@@ -1,39 +1,30 @@
 // SPDX-FileCopyrightText: VornFrame contributors
 // SPDX-License-Identifier: MIT
 
+#include "CommandLine.h"
 #include "DocumentController.h"
 #include "NotepadDialog.h"
-#include "Screenshot.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
-#include <QTextStream>
-
-#include <cstdlib>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-int fail(const QString &text)
+QString tr(const char *text)
 {
-    QTextStream(stderr) << text << Qt::endl;
-    return EXIT_FAILURE;
+    return QCoreApplication::translate("main", text);
 }
 
-/// Nobody is there who could answer a message box.
-int takeScreenshot(NotepadDialog &dialog, const QString &file, const QString &picture)
+int takeScreenshot(const CommandLine &line, const QString &file)
 {
+    NotepadDialog dialog;
     if (!file.isEmpty()) {
         const TextFile::Status status = dialog.document()->load(file);
         if (!status.ok())
-            return fail(QCoreApplication::translate("main", "“%1” could not be opened. %2")
-                            .arg(file, status.reason));
+            return CommandLine::fail(tr("“%1” could not be opened. %2").arg(file, status.reason));
     }
-    if (!Screenshot::take(&dialog, picture))
-        return fail(QCoreApplication::translate("main", "“%1” could not be written.").arg(picture));
-    QTextStream(stdout) << picture << Qt::endl;
-    return EXIT_SUCCESS;
+    return line.takeScreenshot(&dialog);
 }
 
 } // namespace
@@ -42,26 +33,16 @@ int main(int argc, char *argv[])
 {
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationName(u"notepad"_s);
+    CommandLine line(tr("A small text editor with a ribbon."));
+    line.addArguments(u"file"_s, u"[FILE]"_s, tr("The text file to open."));
+    line.process(application);
+    if (line.arguments().size() > 1)
+        return CommandLine::fail(tr("Only one file can be opened at a time."));
 
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QCoreApplication::translate("main", "A small text editor with a ribbon."));
-    parser.addHelpOption();
-    parser.addPositionalArgument(
-        u"file"_s, QCoreApplication::translate("main", "The text file to open."), u"[FILE]"_s);
-    const QCommandLineOption screenshot(
-        u"screenshot"_s,
-        QCoreApplication::translate("main", "Write a picture of the window, and end."),
-        u"FILE.png"_s);
-    parser.addOption(screenshot);
-    parser.process(application);
-    const QString file = parser.positionalArguments().value(0);
-    if (parser.positionalArguments().size() > 1)
-        return fail(QCoreApplication::translate("main", "Only one file can be opened at a time."));
-
+    const QString file = line.arguments().value(0);
+    if (line.isScreenshot())
+        return takeScreenshot(line, file);
     NotepadDialog dialog;
-    if (parser.isSet(screenshot))
-        return takeScreenshot(dialog, file, parser.value(screenshot));
     dialog.show();
     if (!file.isEmpty())
         dialog.document()->openPath(file);

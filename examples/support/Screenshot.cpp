@@ -3,6 +3,7 @@
 
 #include "Screenshot.h"
 
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QPixmap>
@@ -31,6 +32,8 @@ void wait(int duration)
 
 bool take(QWidget *window, const QString &path)
 {
+    // A cursor that blinks would be on one picture and not on the next.
+    QApplication::setCursorFlashTime(0);
     window->show();
     QElapsedTimer timer;
     timer.start();

@@ -1,163 +1,56 @@
 // SPDX-FileCopyrightText: VornFrame contributors
 // SPDX-License-Identifier: MIT
 
-#include <QDir>
-#include <QFile>
-#include <QImage>
-#include <QProcess>
-#include <QTemporaryDir>
-#include <QTest>
+#include "support/ProgramFixture.h"
 
 using namespace Qt::StringLiterals;
 
 /// The program as it is run from the command line.
-class tst_PanelsProgram final : public QObject
+class tst_PanelsProgram final : public ProgramFixture
 {
     Q_OBJECT
 
+public:
+    tst_PanelsProgram();
+
 private Q_SLOTS:
     void init();
-    void takesAScreenshot_data();
-    void takesAScreenshot();
-    void aScreenshotLooksTheSameEachTime();
     void aScreenshotNeedsNoSettings();
     void saysWhatWentWrong_data();
-    void saysWhatWentWrong();
-    void helpNamesTheOptions();
-
-private:
-    struct Outcome
-    {
-        int code = -1;
-        QString output;
-        QString errors;
-    };
-
-    Outcome run(const QStringList &arguments, const QString &scale = u"1"_s) const;
-    QString path(const QString &name) const { return m_folder->filePath(name); }
-    void write(const QString &name, const QByteArray &bytes) const;
-
-    std::unique_ptr<QTemporaryDir> m_folder;
 };
+
+tst_PanelsProgram::tst_PanelsProgram()
+    : ProgramFixture({QString::fromUtf8(PANELS_PROGRAM),
+                      QSize(1100, 720),
+                      // The bars on both sides, the status bar, and the text or the ground of the
+                      // placeholder.
+                      {{QPoint(17, 400), QColor(230, 230, 230)},
+                       {QPoint(1083, 400), QColor(230, 230, 230)},
+                       {QPoint(700, 702), QColor(230, 230, 230)},
+                       {QPoint(700, 450), QColor(Qt::white)}},
+                      {u"b.txt"_s, u"a.md"_s},
+                      {u"--settings <FILE.ini>"_s, u"[FILE...]"_s}})
+{}
 
 void tst_PanelsProgram::init()
 {
-    m_folder = std::make_unique<QTemporaryDir>();
+    ProgramFixture::init();
     write(u"a.md"_s, "# Heading\n\ntext\n");
     write(u"b.txt"_s, "some text\n");
 }
 
-void tst_PanelsProgram::write(const QString &name, const QByteArray &bytes) const
-{
-    QFile file(path(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("a file for the test could not be written");
-}
-
-tst_PanelsProgram::Outcome tst_PanelsProgram::run(const QStringList &arguments,
-                                                  const QString &scale) const
-{
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
-    environment.insert(u"QT_SCALE_FACTOR"_s, scale);
-    environment.insert(u"XDG_CONFIG_HOME"_s, path(u"config"_s));
-    QProcess process;
-    process.setProcessEnvironment(environment);
-    process.setWorkingDirectory(m_folder->path());
-    process.start(QString::fromUtf8(PANELS_PROGRAM), arguments);
-    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
-        return {};
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
-}
-
-void tst_PanelsProgram::takesAScreenshot_data()
-{
-    QTest::addColumn<QString>("scale");
-    QTest::addColumn<QStringList>("files");
-    QTest::addColumn<QSize>("size");
-
-    QTest::newRow("ratio 1") << u"1"_s << QStringList{u"b.txt"_s, u"a.md"_s} << QSize(1100, 720);
-    QTest::newRow("ratio 2") << u"2"_s << QStringList{u"b.txt"_s, u"a.md"_s} << QSize(2200, 1440);
-    QTest::newRow("without a file") << u"1"_s << QStringList() << QSize(1100, 720);
-}
-
-void tst_PanelsProgram::takesAScreenshot()
-{
-    QFETCH(const QString, scale);
-    QFETCH(const QStringList, files);
-    const QString picture = path(u"picture.png"_s);
-    const Outcome outcome = run(files + QStringList{u"--screenshot"_s, picture}, scale);
-    QVERIFY2(outcome.code == 0, qPrintable(outcome.errors));
-    QCOMPARE(outcome.output, picture + u'\n');
-    const QImage image(picture, "PNG");
-    QTEST(image.size(), "size");
-    // The bars on both sides, the status bar, and the text or the ground of the placeholder.
-    const int ratio = scale.toInt();
-    const QColor bar(230, 230, 230);
-    QCOMPARE(image.pixelColor(QPoint(17, 400) * ratio), bar);
-    QCOMPARE(image.pixelColor(QPoint(1083, 400) * ratio), bar);
-    QCOMPARE(image.pixelColor(QPoint(700, 702) * ratio), bar);
-    QCOMPARE(image.pixelColor(QPoint(700, 450) * ratio), QColor(Qt::white));
-}
-
-void tst_PanelsProgram::aScreenshotLooksTheSameEachTime()
-{
-    const QStringList arguments{u"a.md"_s, u"--screenshot"_s};
-    QCOMPARE(run(arguments + QStringList{u"1.png"_s}).code, 0);
-    QCOMPARE(run(arguments + QStringList{u"2.png"_s}).code, 0);
-    QCOMPARE(QImage(path(u"1.png"_s)), QImage(path(u"2.png"_s)));
-}
-
 void tst_PanelsProgram::aScreenshotNeedsNoSettings()
 {
-    const QByteArray settings("[General]\nformat=1\n\n[left]\nminimized=true\n");
-    write(u"a.ini"_s, settings);
-    const QStringList arguments{u"--settings"_s, u"a.ini"_s, u"--screenshot"_s, u"1.png"_s};
-    QCOMPARE(run(arguments).code, 0);
-    QCOMPARE(run({u"--screenshot"_s, u"2.png"_s}).code, 0);
-    QCOMPARE(QImage(path(u"1.png"_s)), QImage(path(u"2.png"_s)));
-    QFile file(path(u"a.ini"_s));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), settings);
-    QVERIFY(!QDir(path(u"config/VornFrame"_s)).exists());
+    checkScreenshotWithout("[General]\nformat=1\n\n[left]\nminimized=true\n");
 }
 
 void tst_PanelsProgram::saysWhatWentWrong_data()
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("said");
-
-    QTest::newRow("no such folder for the picture")
-        << QStringList{u"--screenshot"_s, u"missing/picture.png"_s} << u"missing/picture.png"_s;
+    ProgramFixture::saysWhatWentWrong_data();
     QTest::newRow("no such file") << QStringList{u"b.txt"_s, u"missing.txt"_s, u"--screenshot"_s,
                                                  u"picture.png"_s}
                                   << u"missing.txt"_s;
-    QTest::newRow("unknown option") << QStringList{u"--unknown"_s} << u"unknown"_s;
-    QTest::newRow("no name for the picture") << QStringList{u"--screenshot"_s} << u"screenshot"_s;
     QTest::newRow("no name for the settings") << QStringList{u"--settings"_s} << u"settings"_s;
-    QTest::newRow("empty name for the picture")
-        << QStringList{u"--screenshot"_s, QString()} << u"screenshot"_s;
-}
-
-void tst_PanelsProgram::saysWhatWentWrong()
-{
-    QFETCH(const QStringList, arguments);
-    QFETCH(const QString, said);
-    const Outcome outcome = run(arguments);
-    QCOMPARE_GT(outcome.code, 0);
-    QVERIFY2(outcome.errors.contains(said), qPrintable(outcome.errors));
-    QCOMPARE(outcome.output, QString());
-    QVERIFY(!QFile::exists(path(u"picture.png"_s)));
-}
-
-void tst_PanelsProgram::helpNamesTheOptions()
-{
-    const Outcome outcome = run({u"--help"_s});
-    QCOMPARE(outcome.code, 0);
-    QVERIFY(outcome.output.contains(u"--screenshot <FILE.png>"_s));
-    QVERIFY(outcome.output.contains(u"--settings <FILE.ini>"_s));
-    QVERIFY(outcome.output.contains(u"[FILE...]"_s));
 }
 
 QTEST_GUILESS_MAIN(tst_PanelsProgram)
