@@ -13,9 +13,11 @@
 #include "RibbonGalleryPopup.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QEvent>
 #include <QFrame>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QScreen>
 #include <QScrollBar>
 #include <QWidgetAction>
@@ -91,8 +93,12 @@ void RibbonGalleryPrivate::trigger(QAction *action)
 void RibbonGalleryPrivate::updateDisplayedItems()
 {
     const QList<QAction *> actions = popup->displayedActions();
-    if (actions == displayedActions)
+    // Lists of pointers hand null to memcmp() when both are empty (Qt 6.4).
+    if (std::equal(actions.cbegin(), actions.cend(), displayedActions.cbegin(),
+                   displayedActions.cend()))
         return;
+    const qsizetype focusedIndex = indexOfFocus();
+    const QAction *focusedAction = displayedActions.value(focusedIndex);
     displayedActions = actions;
     const QList<RibbonGalleryItem *> former = std::exchange(items, {});
     for (RibbonGalleryItem *tile : former) {
@@ -104,6 +110,8 @@ void RibbonGalleryPrivate::updateDisplayedItems()
     // Blank tiles deliberately stay: the next time the new tiles come after them.
     for (qsizetype count = actions.size(); count < displayCount; ++count)
         addBlankItem();
+    if (focusedIndex >= 0)
+        restoreFocus(focusedAction, focusedIndex);
 }
 
 void RibbonGalleryPrivate::addDisplayedItem(QAction *action)
@@ -114,7 +122,7 @@ void RibbonGalleryPrivate::addDisplayedItem(QAction *action)
     tile->setCollectEnabled(false);
     itemsLayout->addWidget(tile);
     items.append(tile);
-    QObject::connect(action, &QObject::destroyed, tile,
+    QObject::connect(action, &QObject::destroyed, tile->actionContext(),
                      [this, tile](const QObject *gone) { removeDisplayedItem(tile, gone); });
 }
 
@@ -141,16 +149,42 @@ void RibbonGalleryPrivate::removeDisplayedItem(RibbonGalleryItem *tile, const QO
         q_ptr, [this] { updateDisplayedItems(); }, Qt::QueuedConnection);
 }
 
-/// From the tile that has the focus to the one \a step tiles further.
+/// Of the tile that the focus of the window is on, also while the popup is open; -1 for none.
+qsizetype RibbonGalleryPrivate::indexOfFocus() const
+{
+    const QWidget *focused = q_ptr->window()->focusWidget();
+    const auto isFocused = [focused](const RibbonGalleryItem *tile) { return tile == focused; };
+    const auto found = std::find_if(items.cbegin(), items.cend(), isFocused);
+    return found == items.cend() ? -1 : std::distance(items.cbegin(), found);
+}
+
+/// From the tile that has the focus to the next one that can get it, where \a step leads.
 void RibbonGalleryPrivate::moveFocus(int step)
 {
-    const auto isFocused = [](const RibbonGalleryItem *tile) { return tile->hasFocus(); };
-    const auto from = std::find_if(items.cbegin(), items.cend(), isFocused);
-    if (from == items.cend())
+    const qsizetype from = indexOfFocus();
+    if (from < 0)
         return;
-    const qsizetype next = std::distance(items.cbegin(), from) + step;
-    if (next >= 0 && next < items.size())
-        items.at(next)->setFocus(Qt::OtherFocusReason);
+    for (qsizetype i = from + step; i >= 0 && i < items.size(); i += step) {
+        if (items.at(i)->isEnabled()) {
+            items.at(i)->setFocus(Qt::OtherFocusReason);
+            return;
+        }
+    }
+}
+
+/// The focus was on the tile for \a action, the one at \a index, before there were new tiles.
+void RibbonGalleryPrivate::restoreFocus(const QAction *action, qsizetype index)
+{
+    if (items.isEmpty())
+        return;
+    const qsizetype same = displayedActions.indexOf(action);
+    const QPointer<QWidget> inPopup(popupMenu->isVisible() ? QApplication::focusWidget() : nullptr);
+    RibbonGalleryItem *tile = items.at(same >= 0 ? same : std::min(index, items.size() - 1));
+    tile->show(); // the layout would only when control returns to the event loop
+    tile->setFocus(Qt::OtherFocusReason);
+    // When the popup closes, the focus goes to where the window has it.
+    if (inPopup)
+        inPopup->setFocus(Qt::PopupFocusReason);
 }
 
 void RibbonGalleryPrivate::openPopup()

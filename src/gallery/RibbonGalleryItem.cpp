@@ -123,6 +123,12 @@ void RibbonGalleryItem::toggleCollected()
         d->collectButton->click();
 }
 
+QObject *RibbonGalleryItem::actionContext() const
+{
+    Q_D(const RibbonGalleryItem);
+    return d->collectButton;
+}
+
 void RibbonGalleryItem::setTilePolishedLate()
 {
     Q_D(RibbonGalleryItem);

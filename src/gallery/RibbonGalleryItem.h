@@ -39,6 +39,10 @@ public:
     /// What a click on the star does, for the keyboard; nothing where collecting is not allowed.
     void toggleCollected();
 
+    /// The context for what follows when the action is deleted: it lives as long as the tile. A tool
+    /// button itself takes leave of its action before that tells its end (Qt 6.4 to 6.8).
+    QObject *actionContext() const;
+
     /// Has tile and star polished when they are first painted.
     void setTilePolishedLate();
 

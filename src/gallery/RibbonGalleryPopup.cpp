@@ -147,7 +147,7 @@ void RibbonGalleryPopupPrivate::collect(const Source &source)
     QAction *action = source.action;
     QObject::connect(copy, &RibbonGalleryItem::signalCollected, copy,
                      [this, action] { uncollectEverywhere(action); });
-    QObject::connect(action, &QObject::destroyed, copy,
+    QObject::connect(action, &QObject::destroyed, copy->actionContext(),
                      [this, copy] { dropWithAction(collectedGroup, copy); });
 }
 
@@ -261,7 +261,7 @@ int RibbonGalleryPopup::addItem(int group, QAction *action, const QSize *iconSiz
             collected ? d->collect(source) : d->uncollect(source.action);
         });
     }
-    connect(action, &QObject::destroyed, tile,
+    connect(action, &QObject::destroyed, tile->actionContext(),
             [d, owner, tile] { d->dropWithAction(owner, tile); });
     return index;
 }

@@ -35,7 +35,9 @@ public:
     void addDisplayedItem(QAction *action);
     void addBlankItem();
     void removeDisplayedItem(RibbonGalleryItem *tile, const QObject *action);
+    qsizetype indexOfFocus() const;
     void moveFocus(int step);
+    void restoreFocus(const QAction *action, qsizetype index);
 
     void openPopup();
     void setPopupHeight(int height);
