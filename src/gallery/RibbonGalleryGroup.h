@@ -4,6 +4,7 @@
 #pragma once
 
 #include "LateStyled.h"
+#include "RibbonGalleryItem.h" // complete, so that signals with tiles can be queued and spied on
 
 #include <QFrame>
 
@@ -15,7 +16,6 @@ class QIcon;
 namespace VornFrame {
 
 class RibbonGalleryGroupPrivate;
-class RibbonGalleryItem;
 
 /// A titled group of tiles in the popup of a gallery, which the user can move to the top or to the
 /// bottom of the list. Its layout places the tiles in rows.
