@@ -124,13 +124,17 @@ void RibbonGalleryPopupPrivate::updatePositions()
 void RibbonGalleryPopupPrivate::moveGroup(RibbonGalleryGroup *group,
                                           RibbonGalleryGroup::Position position)
 {
-    if (position != RibbonGalleryGroup::Top && position != RibbonGalleryGroup::Bottom)
-        return;
     groups.removeOne(group);
-    groups.insert(position == RibbonGalleryGroup::Top ? 0 : groups.size(), group);
     groupsLayout->removeWidget(group);
-    // The favourites stand before all groups.
-    groupsLayout->insertWidget(1 + static_cast<int>(groups.indexOf(group)), group);
+    // Groups are placed before the line that says that nothing matches. What is neither for the top
+    // nor for the bottom deliberately leaves the list, and stands before what is in it.
+    const int end = groupsLayout->count() - 1;
+    const int begin = end - static_cast<int>(groups.size());
+    if (position == RibbonGalleryGroup::Top)
+        groups.prepend(group);
+    else if (position == RibbonGalleryGroup::Bottom)
+        groups.append(group);
+    groupsLayout->insertWidget(position == RibbonGalleryGroup::Bottom ? end : begin, group);
     updatePositions();
     Q_EMIT q_ptr->signalGroupUpdated();
 }
