@@ -9,6 +9,7 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QScrollBar>
 
 #include <cstdlib>
 #include <utility>
@@ -27,7 +28,11 @@ QWidget *RibbonGalleryPopupPrivate::focused() const
 void RibbonGalleryPopupPrivate::focus(QWidget *widget, Qt::FocusReason reason)
 {
     widget->setFocus(reason);
-    q_ptr->ensureWidgetVisible(widget, 0, 0);
+    // Of a field only the text cursor would come into sight.
+    if (widget == searchEdit)
+        q_ptr->verticalScrollBar()->setValue(0);
+    else
+        q_ptr->ensureWidgetVisible(widget, 0, 0);
 }
 
 QList<RibbonGalleryItem *> RibbonGalleryPopupPrivate::reachableItems() const
