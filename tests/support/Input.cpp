@@ -90,7 +90,9 @@ void wheel(QWidget *widget, int steps, Position at)
     const QPoint angle(0, steps * AnglePerWheelStep);
     QWheelEvent event(target.point, target.window->mapToGlobal(target.point), {}, angle,
                       Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(target.window, &event);
+    // From outside: others are not handed on to the parent of a widget that ignores them.
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    QCoreApplication::instance()->notify(target.window, &event);
 }
 
 } // namespace Input
