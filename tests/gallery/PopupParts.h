@@ -11,12 +11,14 @@
 #include "support/Input.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QString>
+#include <QTest>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -80,6 +82,13 @@ inline QPushButton *toBottom(const VornFrame::RibbonGalleryGroup *group)
 inline QToolButton *starOf(const VornFrame::RibbonGalleryItem *tile)
 {
     return tile->findChild<QToolButton *>(u"collectedButton"_s);
+}
+
+/// Has \a window painted and all layouts done that follow from that.
+inline void settle(QWidget *window)
+{
+    QVERIFY(!window->grab().isNull());
+    QCoreApplication::sendPostedEvents();
 }
 
 /// The texts of the tiles in their order, without those that are hidden.

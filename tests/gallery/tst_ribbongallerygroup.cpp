@@ -504,6 +504,7 @@ void tst_RibbonGalleryGroup::updateLayoutPlacesTheTiles()
     FilledGroup shown;
     QVERIFY(Input::show(&shown.window));
     RibbonGalleryItem *tile = shown.group->item(0);
+    settle(&shown.window);
     QCOMPARE(tile->pos(), QPoint(3, 5));
     tile->move(50, 50);
     QCoreApplication::sendPostedEvents();

@@ -6,7 +6,6 @@
 #include "support/TestCase.h"
 
 #include <QEvent>
-#include <QMoveEvent>
 #include <QPointer>
 #include <QSignalSpy>
 
@@ -47,20 +46,22 @@ public:
     int height() const { return parts().content()->height(); }
 };
 
-/// Counts how often a widget is moved or resized.
-class MoveCounter : public QObject
+/// When a widget was placed, and when it was painted.
+class PlacingLog : public QObject
 {
 public:
-    explicit MoveCounter(QWidget *widget) { widget->installEventFilter(this); }
+    explicit PlacingLog(QWidget *widget) { widget->installEventFilter(this); }
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
         if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
-            ++count;
+            entries.append(u"placed"_s);
+        if (event->type() == QEvent::Paint)
+            entries.append(u"painted"_s);
         return QObject::eventFilter(watched, event);
     }
 
-    int count = 0;
+    QStringList entries;
 };
 
 /// Does not let itself be closed.
@@ -95,7 +96,8 @@ private Q_SLOTS:
 
     void theHeightIsToldOnceWhenAllHasSettled();
     void theSameTextIsNotSearchedAgain();
-    void noTileIsPlacedTwice();
+    void tilesArePlacedOnceAndThenPainted();
+    void groupsShrinkToWhatTheyShow();
     void aMovedGroupKeepsWhatItShows();
     void aSearchInAClosedPopupHolds();
     void collectingCanBeChangedDuringASearch();
@@ -336,23 +338,40 @@ void tst_RibbonGallerySearch::theSameTextIsNotSearchedAgain()
     QCOMPARE(told.size(), 0);
 }
 
-void tst_RibbonGallerySearch::noTileIsPlacedTwice()
+void tst_RibbonGallerySearch::tilesArePlacedOnceAndThenPainted()
 {
     SearchWindow window;
     QVERIFY(Input::show(&window));
-    QCoreApplication::sendPostedEvents();
+    settle(&window);
     QWidget *tile = window.parts().tile(0, 2);
-    MoveCounter moves(tile);
     QCOMPARE(tile->pos(), QPoint(3 + 2 * TileSize.width(), 5));
+    const PlacingLog log(tile);
     window.search(u"circle"_s);
-    // The search is over: tile and content are where they stay.
+    QTRY_VERIFY(log.entries.contains(u"painted"_s));
+    QCOMPARE(log.entries, QStringList({u"placed"_s, u"painted"_s}));
     QCOMPARE(tile->pos(), QPoint(3, 5));
-    const int height = window.height();
-    QCoreApplication::sendPostedEvents();
-    QCOMPARE(moves.count, 1);
-    QCOMPARE(window.height(), height);
-    QCOMPARE(tile->pos(), QPoint(3, 5));
-    QVERIFY(window.parts().content()->updatesEnabled());
+    QCOMPARE(window.height(), SearchRow + FirstRow);
+}
+
+void tst_RibbonGallerySearch::groupsShrinkToWhatTheyShow()
+{
+    PopupWindow window;
+    window.addGroup(u"t"_s, 14);
+    window.addGroup(u"u"_s, 1);
+    QVERIFY(Input::show(&window));
+    settle(&window);
+    const RibbonGalleryGroup *first = window.parts().group(0);
+    const int row = TileSize.height();
+    QCOMPARE(itemsFrame(first)->height(), 5 + 3 * row + 5);
+    window.parts().searchEdit()->setText(u"3"_s);
+    QTRY_COMPARE(itemsFrame(first)->height(), 5 + row + 5);
+    window.parts().searchEdit()->setText(u"1"_s); // 1, 10, 11, 12, 13
+    QTRY_COMPARE(window.parts().tile(0, 13)->pos(), QPoint(3 + 4 * TileSize.width(), 5));
+    // The popup reckons with all tiles of a group all the same.
+    QCOMPARE(window.parts().content()->height(), SearchRow + FirstRow + 2 * OtherRow);
+    window.parts().searchEdit()->clear();
+    QTRY_COMPARE(itemsFrame(first)->height(), 5 + 3 * row + 5);
+    QTRY_COMPARE(window.parts().group(1)->y(), first->geometry().bottom() + 1);
 }
 
 void tst_RibbonGallerySearch::aMovedGroupKeepsWhatItShows()
