@@ -167,6 +167,17 @@ void RibbonGalleryItem::changeEvent(QEvent *event)
         d->placeCollectButton();
 }
 
+void RibbonGalleryItem::focusInEvent(QFocusEvent *event)
+{
+    Q_D(RibbonGalleryItem);
+    // A window that opens gives the focus to some widget: that is not worth a frame. One that comes
+    // back shows what it showed.
+    const Qt::FocusReason reason = event->reason();
+    if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
+        d->showsFocus = reason != Qt::MouseFocusReason;
+    LateStyled::focusInEvent(event);
+}
+
 void RibbonGalleryItem::keyPressEvent(QKeyEvent *event)
 {
     // All keys but the one that presses a button are for the gallery around: it knows the neighbours.
@@ -187,8 +198,12 @@ void RibbonGalleryItem::initStyleOption(QStyleOptionToolButton *option) const
 {
     Q_D(const RibbonGalleryItem);
     QToolButton::initStyleOption(option);
+    if (!option)
+        return;
+    if (!d->showsFocus)
+        option->state &= ~QStyle::State_HasFocus;
     // A style would cut a text that is too long at both ends.
-    if (option && d->hasFixedSize())
+    if (d->hasFixedSize())
         option->text = option->fontMetrics.elidedText(
             option->text, Qt::ElideRight, width() - 2 * TextMargin, Qt::TextShowMnemonic);
 }

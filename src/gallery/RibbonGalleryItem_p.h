@@ -26,6 +26,7 @@ public:
     LateStyled<QToolButton> *const collectButton;
     bool collected = false;
     bool collectEnabled = false;
+    bool showsFocus = false; ///< the keyboard brought it
     RibbonGalleryItem *const q_ptr;
 };
 

@@ -74,7 +74,7 @@ void tst_RibbonGalleryItem::declaresOneSignal()
 
 void tst_RibbonGalleryItem::itsRecordStartsAsPromised()
 {
-    const RibbonGalleryItemPrivate d;
+    const RibbonGalleryItemPrivate d(nullptr);
     const std::unique_ptr<QToolButton> star(d.collectButton);
     QVERIFY(star);
     QVERIFY(!star->parent());
