@@ -310,6 +310,7 @@ QByteArray RibbonGallery::saveState() const
     return d->popup->saveState();
 }
 
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): the counterpart of saveState()
 void RibbonGallery::restoreState(const QByteArray &state)
 {
     RibbonGalleryPopup::restoreState(state);

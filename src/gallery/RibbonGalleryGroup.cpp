@@ -165,7 +165,7 @@ RibbonGalleryItem *RibbonGalleryGroup::item(int index) const
 bool RibbonGalleryGroup::isItemCollected(int index) const
 {
     const RibbonGalleryItem *tile = item(index);
-    return tile && tile->isCollected();
+    return tile != nullptr && tile->isCollected();
 }
 
 bool RibbonGalleryGroup::setItemCollected(int index, bool collected)
