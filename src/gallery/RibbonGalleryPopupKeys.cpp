@@ -110,9 +110,9 @@ bool RibbonGalleryPopupPrivate::isForSearch(const QKeyEvent *event) const
 void RibbonGalleryPopupPrivate::activateFocused()
 {
     QWidget *widget = focused();
-    if (widget == searchEdit && !searchEdit->text().isEmpty()) {
+    if (const auto *field = qobject_cast<QLineEdit *>(widget)) {
         const QList<RibbonGalleryItem *> tiles = reachableItems();
-        if (!tiles.isEmpty())
+        if (!field->text().isEmpty() && !tiles.isEmpty())
             tiles.first()->click();
     } else if (auto *button = qobject_cast<QAbstractButton *>(widget)) {
         button->click();
