@@ -29,6 +29,8 @@ private Q_SLOTS:
     void forbiddingHidesTheStarOfAFavourite();
     void forbiddingHidesTheStarUnderThePointer();
     void allowingShowsTheStarOnlyOnTheNextEntry();
+    void leavingHidesTheStarWhereNothingIsAllowedToo();
+    void starIsShownBeforeTheActionReportsThePointer();
     void clickOnTheStarMakesAFavouriteAndTriggersNothing();
     void secondClickOnTheStarTakesItBackAndHidesIt();
     void clickOnTheStarReportsAfterTheStateIsSet();
@@ -231,6 +233,28 @@ void tst_RibbonGalleryItemStar::allowingShowsTheStarOnlyOnTheNextEntry()
     QVERIFY(window.star()->isHidden());
     window.enter();
     QVERIFY(window.star()->isVisible());
+}
+
+void tst_RibbonGalleryItemStar::leavingHidesTheStarWhereNothingIsAllowedToo()
+{
+    TileWindow window;
+    QVERIFY(window.showAlone());
+    window.enter();
+    window.star()->show();
+    window.leave();
+    QVERIFY(window.star()->isHidden());
+}
+
+void tst_RibbonGalleryItemStar::starIsShownBeforeTheActionReportsThePointer()
+{
+    TileWindow window;
+    window.tile()->setCollectEnabled(true);
+    QVERIFY(window.showAlone());
+    QList<bool> shown;
+    connect(window.action(), &QAction::hovered, this,
+            [&window, &shown] { shown.append(window.star()->isVisible()); });
+    window.enter();
+    QCOMPARE(shown, QList<bool>{true});
 }
 
 void tst_RibbonGalleryItemStar::clickOnTheStarMakesAFavouriteAndTriggersNothing()

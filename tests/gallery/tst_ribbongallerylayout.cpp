@@ -98,6 +98,7 @@ private Q_SLOTS:
     void lookingForTheHeightMovesNothing();
     void itemsOfAllSizesArePlaced_data();
     void itemsOfAllSizesArePlaced();
+    void spacingBehindTheLastOneNeedsNoRoom();
     void tooWideItemHasARowOfItsOwn();
     void rowWithoutHeightIsNotLeft();
     void noItemsNeedNoRow();
@@ -331,6 +332,17 @@ void tst_RibbonGalleryLayout::itemsOfAllSizesArePlaced()
     layout.setGeometry(QRect(10, 20, 107, 500));
     QCOMPARE(placesOf(layout), places);
     QCOMPARE(layout.heightForWidth(107), 113);
+}
+
+void tst_RibbonGalleryLayout::spacingBehindTheLastOneNeedsNoRoom()
+{
+    RibbonGalleryLayout layout(nullptr, 0, 10, 20);
+    addBlocks(layout, {TileSize, TileSize, TileSize});
+    QCOMPARE(layout.heightForWidth(191), 140);
+    QCOMPARE(layout.heightForWidth(190), 220);
+    layout.setGeometry(QRect(0, 0, 191, 200));
+    const QList<QRect> places{{0, 0, 90, 60}, {100, 0, 90, 60}, {0, 80, 90, 60}};
+    QCOMPARE(placesOf(layout), places);
 }
 
 void tst_RibbonGalleryLayout::tooWideItemHasARowOfItsOwn()

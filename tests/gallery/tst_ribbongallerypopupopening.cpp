@@ -92,6 +92,8 @@ private Q_SLOTS:
     void shrinksToWhatIsFound();
     void shrunkenPopupNeedsNoScrollBar_data() { addDirections(); }
     void shrunkenPopupNeedsNoScrollBar();
+    void favouritesAreSearchedWhereCollectingIsAllowed_data();
+    void favouritesAreSearchedWhereCollectingIsAllowed();
     void growsWithTheFavourites_data() { addDirections(); }
     void growsWithTheFavourites();
     void growsOnlyToTheEdgeOfTheScreen();
@@ -301,6 +303,29 @@ void tst_RibbonGalleryPopupOpening::shrunkenPopupNeedsNoScrollBar()
     QCOMPARE(window.menu()->geometry(), QRect(corner - QPoint(isLeftToRight ? 0 : 19, 0),
                                               QSize(StripWidth + ScrollBar + 2, 152)));
     QTRY_VERIFY(window.hasScrollBar());
+    window.menu()->close();
+}
+
+void tst_RibbonGalleryPopupOpening::favouritesAreSearchedWhereCollectingIsAllowed_data()
+{
+    QTest::addColumn<bool>("enabled");
+    QTest::newRow("allowed") << true;
+    QTest::newRow("not any more") << false;
+}
+
+void tst_RibbonGalleryPopupOpening::favouritesAreSearchedWhereCollectingIsAllowed()
+{
+    QFETCH(const bool, enabled);
+    OpeningWindow window;
+    window.gallery()->setCollectEnabled(true);
+    window.addGroups({1, 1});
+    window.gallery()->setItemCollected(0, 0, true);
+    window.gallery()->setCollectEnabled(enabled);
+    QVERIFY(window.showAlone());
+    QVERIFY(window.openPopup());
+    searchOf(window.gallery())->setText(u"b"_s);
+    QCOMPARE(favouritesOf(window.gallery())->isVisible(), !enabled);
+    QCOMPARE(window.popup()->height(), enabled ? 130 : 228);
     window.menu()->close();
 }
 
