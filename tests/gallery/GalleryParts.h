@@ -167,7 +167,11 @@ public:
 
     VornFrame::RibbonGallery *gallery() const { return m_gallery; }
     QLineEdit *field() const { return m_field; }
-    void deleteGallery() { delete m_gallery; }
+    void deleteGallery()
+    {
+        delete m_gallery.data();
+        m_gallery.clear(); // it has done so by itself, which static analysis does not see
+    }
 
     /// A new action in \a group.
     QAction *addItem(int group, const QString &text)
