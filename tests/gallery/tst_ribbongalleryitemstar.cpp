@@ -7,8 +7,23 @@
 
 #include <QSignalSpy>
 
+#include <initializer_list>
+
 using namespace Qt::StringLiterals;
 using namespace VornFrame;
+
+namespace {
+
+/// A digit for each of \a values.
+QString flags(std::initializer_list<bool> values)
+{
+    QString text;
+    for (const bool value : values)
+        text.append(value ? u'1' : u'0');
+    return text;
+}
+
+} // namespace
 
 class tst_RibbonGalleryItemStar : public TestCase
 {
@@ -147,13 +162,10 @@ void tst_RibbonGalleryItemStar::stateAndStarAreSetBeforeTheSignal()
     const auto *star = tile.findChild<QToolButton *>();
     QStringList log;
     connect(&tile, &RibbonGalleryItem::signalCollected, &tile, [&tile, star, &log, icon](bool on) {
-        log.append(u"%1 %2 %3 %4"_s.arg(on)
-                       .arg(tile.isCollected())
-                       .arg(!star->isHidden())
-                       .arg(showsIcon(star, icon)));
+        log.append(flags({on, tile.isCollected(), !star->isHidden(), showsIcon(star, icon)}));
     });
     tile.setCollected(collected);
-    QCOMPARE(log, QStringList(collected ? u"1 1 1 1"_s : u"0 0 0 1"_s));
+    QCOMPARE(log, QStringList(collected ? u"1111"_s : u"0001"_s));
 }
 
 void tst_RibbonGalleryItemStar::starFollowsThePointer_data()
@@ -298,14 +310,12 @@ void tst_RibbonGalleryItemStar::clickOnTheStarReportsAfterTheStateIsSet()
     QVERIFY(window.showAlone());
     QStringList log;
     connect(window.tile(), &RibbonGalleryItem::signalCollected, this, [&window, &log](bool on) {
-        log.append(u"%1 %2 %3"_s.arg(on)
-                       .arg(window.tile()->isCollected())
-                       .arg(window.star()->isVisible()));
+        log.append(flags({on, window.tile()->isCollected(), window.star()->isVisible()}));
     });
     window.enter();
     Input::click(window.star());
     Input::click(window.star());
-    QCOMPARE(log, QStringList({u"1 1 1"_s, u"0 0 0"_s}));
+    QCOMPARE(log, QStringList({u"111"_s, u"000"_s}));
 }
 
 void tst_RibbonGalleryItemStar::toggleIsAClickOnTheStar()
