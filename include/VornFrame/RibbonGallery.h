@@ -24,7 +24,7 @@ class RibbonGalleryPrivate;
 ///
 /// The strip shows the favourites and then the first of the other actions. It is filled when the
 /// gallery is shown, and anew when the popup was closed or a group was moved; actions that are added
-/// to a visible gallery come into the strip then.
+/// to a visible gallery come into the strip then. The popup closes when the gallery is hidden.
 ///
 /// Actions stay their owners'. A deleted action disappears from strip and popup; the indexes of the
 /// items after it in its group go down by one.
@@ -86,6 +86,7 @@ protected:
     RibbonGallery(RibbonGalleryPrivate &d, QWidget *parent);
 
     void changeEvent(QEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
 

@@ -324,6 +324,14 @@ void RibbonGallery::changeEvent(QEvent *event)
         polishAgain(d->popupButton);
 }
 
+void RibbonGallery::hideEvent(QHideEvent *event)
+{
+    Q_D(RibbonGallery);
+    QWidget::hideEvent(event);
+    // A menu would stay, alone on the screen.
+    d->popupMenu->close();
+}
+
 void RibbonGallery::keyPressEvent(QKeyEvent *event)
 {
     Q_D(RibbonGallery);

@@ -287,9 +287,11 @@ QList<QAction *> RibbonGalleryPopup::displayedActions() const
     QList<QAction *> actions;
     const auto take = [d, &actions](const RibbonGalleryGroup *group, bool collected) {
         for (int i = 0; i < group->count() && actions.size() < d->displayCount; ++i) {
-            // The tile of a favourite is skipped: its copy was taken before.
-            if (collected || !group->isItemCollected(i))
-                actions.append(group->item(i)->defaultAction());
+            QAction *action = group->item(i)->defaultAction();
+            // The tile of a favourite is skipped: its copy was taken before. One whose action is
+            // just being deleted has none any more.
+            if (action && (collected || !group->isItemCollected(i)))
+                actions.append(action);
         }
     };
     take(d->collectedGroup, true);

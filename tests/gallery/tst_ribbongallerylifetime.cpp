@@ -95,6 +95,7 @@ public:
 } // namespace
 
 Q_DECLARE_METATYPE(Way)
+Q_DECLARE_METATYPE(std::function<void(QWidget *, QWidget *)>)
 
 class tst_RibbonGalleryLifetime : public TestCase
 {
@@ -126,6 +127,8 @@ private Q_SLOTS:
     void galleryMayGoRightAfterThePopupClosed();
     void galleryMayGoWhenItsFavouritesChanged();
     void galleryMayGoWhenAnActionIsHovered();
+    void popupClosesWithItsGallery_data();
+    void popupClosesWithItsGallery();
     void galleryMayGoInThePressedState_data();
     void galleryMayGoInThePressedState();
 
@@ -135,6 +138,7 @@ private Q_SLOTS:
     void actionWithTheFocusMayGo();
     void actionMayGoBeforeTheStripFollows();
     void actionsMayGoBeforeTheGallery();
+    void stripMayFollowWhileAnActionGoes();
     void actionOfNoGroupMayGo();
     void actionsOutliveTheGallery();
     void blankTilesOwnTheirActions();
@@ -341,6 +345,34 @@ void tst_RibbonGalleryLifetime::galleryMayGoWhenAnActionIsHovered()
     QVERIFY(!QApplication::activePopupWidget());
 }
 
+void tst_RibbonGalleryLifetime::popupClosesWithItsGallery_data()
+{
+    QTest::addColumn<std::function<void(QWidget *, QWidget *)>>("leave");
+    const auto add = [](const char *name, const std::function<void(QWidget *, QWidget *)> &leave) {
+        QTest::newRow(name) << leave;
+    };
+    add("gallery hidden", [](QWidget *gallery, QWidget * /*other*/) { gallery->hide(); });
+    add("window hidden", [](QWidget *gallery, QWidget * /*other*/) { gallery->window()->hide(); });
+    add("window closed", [](QWidget *gallery, QWidget * /*other*/) { gallery->window()->close(); });
+    add("gallery moved", [](QWidget *gallery, QWidget *other) { gallery->setParent(other); });
+}
+
+void tst_RibbonGalleryLifetime::popupClosesWithItsGallery()
+{
+    QFETCH(const std::function<void(QWidget *, QWidget *)>, leave);
+    LifetimeWindow window;
+    QWidget other;
+    QVERIFY(window.showTiles());
+    QVERIFY(window.openPopup());
+    searchOf(window.gallery())->setText(u"b"_s);
+    leave(window.gallery(), &other);
+    QVERIFY(!window.menu()->isVisible());
+    QVERIFY(!QApplication::activePopupWidget());
+    QCOMPARE(searchOf(window.gallery())->text(), QString());
+    QCoreApplication::processEvents();
+    window.deleteGallery();
+}
+
 void tst_RibbonGalleryLifetime::galleryMayGoInThePressedState_data()
 {
     QTest::addColumn<bool>("inPopup");
@@ -445,6 +477,22 @@ void tst_RibbonGalleryLifetime::actionsMayGoBeforeTheGallery()
     gallery.addItem(u"Styles"_s, action.get());
     action.reset();
     QCOMPARE(groupsOf(&gallery).at(0)->count(), 0);
+}
+
+void tst_RibbonGalleryLifetime::stripMayFollowWhileAnActionGoes()
+{
+    LifetimeWindow window;
+    auto action = std::make_unique<QAction>(u"x"_s);
+    // Before the gallery hears of it.
+    connect(action.get(), &QObject::destroyed, &window, [&window] { window.showAgain(); });
+    window.gallery()->addItem(0, action.get());
+    window.gallery()->setItemCollected(0, 3, true);
+    QVERIFY(window.showTiles());
+    QCOMPARE(stripOf(window.gallery()), QStringList({u"x"_s, u"a0"_s}));
+    action.reset();
+    QCOMPARE(stripOf(window.gallery()), QStringList({u"a0"_s, u"a1"_s}));
+    QCoreApplication::processEvents();
+    QCOMPARE(stripOf(window.gallery()), QStringList({u"a0"_s, u"a1"_s}));
 }
 
 void tst_RibbonGalleryLifetime::actionOfNoGroupMayGo()
