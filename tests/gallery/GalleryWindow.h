@@ -70,7 +70,7 @@ public:
         for (int i = 0; i < count; ++i)
             m_gallery->addItem(group, new QAction(prefix + QString::number(i), this));
     }
-    /// The first tile with this text, favourites before others.
+    /// The first tile with this text that is not a favourite's copy.
     VornFrame::RibbonGalleryItem *tile(const QString &text) const
     {
         const auto tiles = popup()->findChildren<VornFrame::RibbonGalleryItem *>();
