@@ -24,9 +24,14 @@ namespace {
 
 constexpr QSize TitleIconSize(16, 16);
 constexpr int TitleIconMargin = 4; ///< between the icon and the title
-constexpr int TitleHeight = 24;
 constexpr QMargins TitleMargins(4, 0, 4, 0);
 constexpr QMargins ItemsMargins(3, 5, 3, 5);
+
+/// As a person reads it: of two ampersands, one is shown.
+QString shownText(const RibbonGalleryItem *tile)
+{
+    return tile->text().replace("&&"_L1, "&"_L1);
+}
 
 /// Only where it changes something: each time costs a layout.
 void setShown(QWidget *widget, bool shown)
@@ -73,7 +78,8 @@ void RibbonGalleryGroupPrivate::initTitle()
 {
     titleFrame->setObjectName(u"galleryGroupTitle"_s);
     // As in the style sheet, which a group that has not been painted does not know yet.
-    titleFrame->setFixedHeight(TitleHeight);
+    titleFrame->setFixedHeight(RibbonGalleryTitle::Height);
+    titleFrame->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     auto *row = new QHBoxLayout(titleFrame);
     row->setSpacing(0);
     row->setContentsMargins(TitleMargins);
@@ -122,6 +128,17 @@ qsizetype RibbonGalleryGroupPrivate::indexOf(const QAction *action) const
     };
     const auto found = std::find_if(items.cbegin(), items.cend(), isOfAction);
     return found == items.cend() ? -1 : std::distance(items.cbegin(), found);
+}
+
+/// To the tile behind \a item, or to the one before the last.
+void RibbonGalleryGroupPrivate::focusBeside(RibbonGalleryItem *item) const
+{
+    QList<RibbonGalleryItem *> tiles = q_ptr->reachableItems();
+    const qsizetype index = tiles.indexOf(item);
+    if (index < 0 || tiles.size() < 2)
+        return;
+    tiles.removeAt(index);
+    tiles.at(std::min(index, tiles.size() - 1))->setFocus(Qt::OtherFocusReason);
 }
 
 RibbonGalleryGroup::RibbonGalleryGroup(const QIcon &icon, const QString &title, QWidget *parent)
@@ -191,8 +208,11 @@ bool RibbonGalleryGroup::removeItem(const QAction *action)
 bool RibbonGalleryGroup::removeItem(RibbonGalleryItem *item)
 {
     Q_D(RibbonGalleryGroup);
-    if (!d->items.removeOne(item))
+    if (!d->items.contains(item))
         return false;
+    if (item->hasFocus())
+        d->focusBeside(item);
+    d->items.removeOne(item);
     d->layout->removeWidget(item);
     item->hide();
     item->deleteLater();
@@ -212,7 +232,7 @@ bool RibbonGalleryGroup::showMatches(const QString &text)
     // Each tile that comes or goes would have all others placed.
     d->layout->setEnabled(false);
     for (RibbonGalleryItem *tile : std::as_const(d->items)) {
-        const bool matches = tile->text().contains(text, Qt::CaseSensitive);
+        const bool matches = shownText(tile).contains(text, Qt::CaseSensitive);
         matched = matched || matches;
         if (matches == tile->isHidden())
             tile->setVisible(matches);

@@ -16,12 +16,18 @@ class RibbonGalleryLayout;
 class RibbonGalleryTitle : public LateStyled<QFrame>
 {
 public:
+    static constexpr int Height = 24; ///< in px, also below a style sheet
+
     using LateStyled::LateStyled;
 
-    QSize sizeHint() const override { return isPolished() ? QFrame::sizeHint() : minimumSize(); }
+    // A style sheet that is taken away takes the minimum height along: then these hold.
+    QSize sizeHint() const override
+    {
+        return {isPolished() ? QFrame::sizeHint().width() : minimumWidth(), Height};
+    }
     QSize minimumSizeHint() const override
     {
-        return isPolished() ? QFrame::minimumSizeHint() : minimumSize();
+        return {isPolished() ? QFrame::minimumSizeHint().width() : minimumWidth(), Height};
     }
 };
 
@@ -34,6 +40,7 @@ public:
     void initMoveButton(QPushButton *button, QLatin1StringView icon, const QString &text,
                         RibbonGalleryGroup::Position position) const;
     qsizetype indexOf(const QAction *action) const;
+    void focusBeside(RibbonGalleryItem *item) const;
 
     QList<RibbonGalleryItem *> items; ///< in order
     LateStyled<QLabel> *iconLabel = new LateStyled<QLabel>;

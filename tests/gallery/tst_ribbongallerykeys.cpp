@@ -84,6 +84,8 @@ private Q_SLOTS:
     void arrowsPassOverWhatIsHiddenOrDisabled();
     void arrowsGoThroughFavouritesFirst();
     void arrowsInAnEmptyGalleryStay();
+    void theFocusStaysAmongTheFavourites_data();
+    void theFocusStaysAmongTheFavourites();
 
     void enterTriggersTheTile_data();
     void enterTriggersTheTile();
@@ -381,6 +383,29 @@ void tst_RibbonGalleryKeys::arrowsInAnEmptyGalleryStay()
     QVERIFY(menu->isVisible());
     QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
     QVERIFY(!menu->isVisible());
+}
+
+void tst_RibbonGalleryKeys::theFocusStaysAmongTheFavourites_data()
+{
+    QTest::addColumn<int>("removed");
+    QTest::addColumn<QString>("focused");
+    QTest::newRow("first") << 0 << u"*a2"_s;
+    QTest::newRow("middle") << 1 << u"*a3"_s;
+    QTest::newRow("last") << 2 << u"*a2"_s;
+}
+
+void tst_RibbonGalleryKeys::theFocusStaysAmongTheFavourites()
+{
+    QFETCH(const int, removed);
+    QFETCH(const QString, focused);
+    GalleryWindow window;
+    for (const int item : {1, 2, 3})
+        window.gallery()->setItemCollected(0, item, true);
+    QVERIFY(window.open());
+    window.focus(window.parts().favourites()->item(removed));
+    window.key(Qt::Key_Space, Qt::ControlModifier);
+    QCOMPARE(window.parts().favourites()->count(), 2);
+    QCOMPARE(window.focused(), focused);
 }
 
 void tst_RibbonGalleryKeys::enterTriggersTheTile_data()

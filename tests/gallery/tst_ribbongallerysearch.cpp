@@ -196,6 +196,9 @@ void tst_RibbonGallerySearch::theTextOfTheTileCounts()
     QVERIFY(window.parts().tile(0, 0)->isVisible());
     window.parts().searchEdit()->setText(u"&"_s);
     QVERIFY(!window.parts().tile(0, 0)->isVisible());
+    bold->setText(u"Bold && &italic"_s);
+    window.parts().searchEdit()->setText(u"Bold & italic"_s);
+    QVERIFY(window.parts().tile(0, 0)->isVisible());
     bold->setIconText(u"Fat & black"_s);
     window.parts().searchEdit()->setText(u"Fat"_s);
     QVERIFY(window.parts().tile(0, 0)->isVisible());

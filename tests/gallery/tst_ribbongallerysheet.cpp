@@ -187,6 +187,8 @@ private Q_SLOTS:
 
     void titlesHaveTheirGroundAndHeight_data() { addRatios(); }
     void titlesHaveTheirGroundAndHeight();
+    void titlesKeepTheirHeightWithoutTheSheet_data();
+    void titlesKeepTheirHeightWithoutTheSheet();
     void titlesHaveTheirFont_data() { addRatios(); }
     void titlesHaveTheirFont();
     void moveButtonsShowTheirState_data() { addStates({"normal", "hovered", "pressed"}); }
@@ -316,6 +318,33 @@ void tst_RibbonGallerySheet::titlesHaveTheirGroundAndHeight()
     // The favourites have their icon.
     const QRect icon = window.areaOf(iconLabel(window.parts().favourites()));
     QVERIFY(!ImageChecks::isFilled(image, icon, Title).isEmpty());
+}
+
+void tst_RibbonGallerySheet::titlesKeepTheirHeightWithoutTheSheet_data()
+{
+    QTest::addColumn<bool>("isOpenedBefore");
+    QTest::newRow("taken away before the popup opens") << false;
+    QTest::newRow("taken away after the popup was open") << true;
+}
+
+void tst_RibbonGallerySheet::titlesKeepTheirHeightWithoutTheSheet()
+{
+    QFETCH(const bool, isOpenedBefore);
+    BarWindow window(Qt::LeftToRight);
+    window.gallery()->setItemCollected(0, 0, true);
+    QVERIFY(Input::show(&window));
+    if (isOpenedBefore) {
+        QVERIFY(window.open());
+        window.menu()->close();
+    }
+    window.findChild<RibbonBar *>()->setStyleSheet(QString());
+    QVERIFY(window.open());
+    for (int i = -1; i < 3; ++i) {
+        const RibbonGalleryGroup *group = i < 0 ? window.parts().favourites()
+                                                : window.parts().group(i);
+        QTRY_COMPARE(titleFrame(group)->height(), 24);
+    }
+    window.menu()->close();
 }
 
 void tst_RibbonGallerySheet::titlesHaveTheirFont()
