@@ -25,11 +25,11 @@ class Block : public QLayoutItem
 public:
     explicit Block(QSize hint = TileSize, QSize minimum = {}) : m_hint(hint), m_minimum(minimum)
     {
-        ++s_count;
+        ++instances;
     }
-    ~Block() override { --s_count; }
+    ~Block() override { --instances; }
 
-    static int count() { return s_count; }
+    static int count() { return instances; }
 
     QSize sizeHint() const override { return m_hint; }
     QSize minimumSize() const override { return m_minimum; }
@@ -42,7 +42,7 @@ public:
 private:
     Q_DISABLE_COPY_MOVE(Block)
 
-    static inline int s_count = 0;
+    static inline int instances = 0;
 
     QSize m_hint;
     QSize m_minimum;
