@@ -7,6 +7,8 @@
 
 #include <QSignalSpy>
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 using namespace GalleryWindows;
 using namespace VornFrame;
@@ -199,8 +201,8 @@ void tst_RibbonGalleryKeys::arrowsGoFromTileToTile_data()
     QTest::addColumn<QString>("to");
 
     const auto add = [](const char *from, Qt::Key key, const char *to) {
-        const char *names[] = {"left", "up", "right", "down"};
-        QTest::addRow("%s from %s", names[key - Qt::Key_Left], from)
+        constexpr std::array names{"left", "up", "right", "down"};
+        QTest::addRow("%s from %s", names.at(static_cast<std::size_t>(key - Qt::Key_Left)), from)
             << QString::fromLatin1(from) << int(key) << QString::fromLatin1(to);
     };
     add("a0", Qt::Key_Right, "a1");
