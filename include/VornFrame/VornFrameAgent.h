@@ -5,11 +5,13 @@
 
 #include <VornFrame/VornFrameGlobal.h>
 
+#include <QList>
 #include <QObject>
 
 #include <memory>
 
 class QDialog;
+class QMainWindow;
 class QWidget;
 
 class VornFrameAgentPrivate;
@@ -18,6 +20,7 @@ namespace VornFrame {
 class AddressBar;
 class DockContainer;
 class RibbonBar;
+class RibbonPage;
 } // namespace VornFrame
 
 /// Dresses one window with the library: creates the ribbon bar, places it with the window's
@@ -45,6 +48,34 @@ public:
     /// A null \a content leaves its place empty. A null \a dialog does nothing, but counts as the
     /// one set-up.
     void setup(QDialog *dialog, QWidget *content);
+
+    /// Gives \a window a central widget in which the ribbon bar, where asked for an address bar, and
+    /// a dock container are stacked; all of them belong to \a window from then on. A central widget
+    /// that it had is deleted. Then the style sheet of \a window, followed by the library's global
+    /// rules, becomes the style sheet of the application, in place of the one that it had.
+    ///
+    /// With \a dockPanels the container sets the window up: the buttons of its bottom side go into a
+    /// status bar. Without, the three bars of buttons are hidden, and views that are added to a side
+    /// cannot be opened.
+    ///
+    /// From now on each change of the current section hides the temporary pages of the ribbon and
+    /// shows the pages that were bound to the section, see bindRibbonPagesAndDockPartition().
+    ///
+    /// A null \a window does nothing, but counts as the one set-up.
+    void setup(QMainWindow *window, bool addressBar, bool dockPanels);
+
+    /// Binds \a pages, which must be pages of the agent's ribbon bar and are normally temporary ones,
+    /// to \a section of the dock container's work surface, in place of those that were bound to it.
+    /// When the section becomes current they are shown, and the first of them becomes the current
+    /// page; no signal follows. In a section without bound pages the first page of the bar becomes
+    /// current.
+    ///
+    /// Null entries are skipped; a null first entry leaves the current page as it is. Pages that are
+    /// not temporary stay visible in all sections. Section -1 stands for none: the last tab of all
+    /// was removed. The binding takes effect with the next change of section.
+    ///
+    /// False when \a pages is empty, and before the set-up of a main window.
+    bool bindRibbonPagesAndDockPartition(const QList<VornFrame::RibbonPage *> &pages, int section);
 
     /// The ribbon bar, there from construction on; null only after its window was destroyed.
     VornFrame::RibbonBar *ribbonBar() const;

@@ -14,6 +14,7 @@
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QTabBar>
 #include <QToolButton>
@@ -47,6 +48,7 @@ void DockContentWidgetPrivate::init()
     layout->addWidget(sectionWidget);
     sectionWidget->hide();
     sectionWidget->installEventFilter(q_ptr);
+    sectionWidget->tabBar()->installEventFilter(q_ptr);
     sectionWidget->tabBar()->setAccessibleName(DockContentWidget::tr("Sections"));
     q_ptr->setAlignment(Qt::AlignCenter);
     initCloseActions();
@@ -111,9 +113,10 @@ bool DockContentWidgetPrivate::hasTabs() const
 
 void DockContentWidgetPrivate::changeSection(int index)
 {
+    const QPointer<DockContentWidget> guard(q_ptr);
     Q_EMIT q_ptr->signalCurrentSectionChanged(index);
-    // A slot chose another section meanwhile, and that has been reported.
-    if (sectionWidget->currentIndex() != index)
+    // A slot closed the window, or chose another section meanwhile, and that has been reported.
+    if (!guard || sectionWidget->currentIndex() != index)
         return;
     const QTabWidget *tabs = section(index);
     const int previousSection = std::exchange(lastSection, index);
@@ -141,6 +144,21 @@ void DockContentWidgetPrivate::changeTab(const QTabWidget *tabs, int index)
     }
 }
 
+/// Appends a tab without a word about sections; -1 if a slot removed it at once.
+int DockContentWidgetPrivate::insertTab(QTabWidget *tabs, QWidget *widget, const QString &text)
+{
+    const QScopedValueRollback moving(movingTabs, true);
+    dropEarlyPolish(widget);
+    const int index = tabs->addTab(widget, text);
+    if (hasTabs())
+        enterFilled();
+    if (hasTabs())
+        return index;
+    if (lastTab >= 0)
+        leaveFilled();
+    return -1;
+}
+
 void DockContentWidgetPrivate::enterFilled()
 {
     if (!sectionWidget->isVisible()) {
@@ -162,8 +180,10 @@ void DockContentWidgetPrivate::leaveFilled()
         return;
     lastSection = -1;
     lastTab = -1;
+    const QPointer<DockContentWidget> guard(q_ptr);
     Q_EMIT q_ptr->signalCurrentSectionChanged(-1);
-    Q_EMIT q_ptr->signalCurrentTabChanged(-1, -1);
+    if (guard)
+        Q_EMIT q_ptr->signalCurrentTabChanged(-1, -1);
 }
 
 void DockContentWidgetPrivate::refreshPlaceholder() const
@@ -171,6 +191,18 @@ void DockContentWidgetPrivate::refreshPlaceholder() const
     const QPixmap wanted = sectionWidget->isVisible() ? QPixmap() : placeholder;
     if (q_ptr->pixmap().cacheKey() != wanted.cacheKey())
         q_ptr->setPixmap(wanted);
+}
+
+/// Chooses the section that the mouse \a event pressed; returns whether there is one. QTabBar would
+/// go on with itself afterwards, but a slot may have closed the window.
+bool DockContentWidgetPrivate::pressSection(const QMouseEvent *event) const
+{
+    QTabBar *bar = sectionWidget->tabBar();
+    const int pressed = bar->tabAt(event->position().toPoint());
+    if (event->button() != Qt::LeftButton || pressed < 0 || !bar->isTabEnabled(pressed))
+        return false;
+    bar->setCurrentIndex(pressed);
+    return true;
 }
 
 void DockContentWidgetPrivate::showCloseMenu(const QTabBar *bar, QPoint pos)
@@ -322,20 +354,11 @@ int DockContentWidget::addTab(int section, QWidget *widget, const QString &text)
     if (!tabs || !widget || widget == tabs || widget->isAncestorOf(tabs))
         return -1;
     const bool hadTabs = d->hasTabs();
-    const QScopedValueRollback moving(d->movingTabs, true);
-    dropEarlyPolish(widget);
-    const int index = tabs->addTab(widget, text);
-    if (d->hasTabs())
-        d->enterFilled();
-    if (!d->hasTabs()) { // a slot removed it
-        if (d->lastTab >= 0)
-            d->leaveFilled();
-        return -1;
-    }
-    if (!hadTabs) {
+    const int index = d->insertTab(tabs, widget, text);
+    if (index >= 0 && !hadTabs) {
         d->lastSection = section;
         d->lastTab = index;
-        Q_EMIT signalCurrentSectionChanged(section);
+        Q_EMIT signalCurrentSectionChanged(section); // a slot may close the window
     }
     return index;
 }
@@ -411,8 +434,10 @@ void DockContentWidget::setCurrentTab(int section, int index)
     QTabWidget *tabs = d->section(section);
     if (!tabs)
         return;
+    const QPointer<QTabWidget> guard(tabs);
     d->sectionWidget->setCurrentIndex(section);
-    tabs->setCurrentIndex(index);
+    if (guard) // no slot closed the window
+        tabs->setCurrentIndex(index);
 }
 
 bool DockContentWidget::isTabEnabled(int section, int index) const
@@ -527,6 +552,9 @@ bool DockContentWidget::eventFilter(QObject *watched, QEvent *event)
     if (watched == d->sectionWidget) {
         if (event->type() == QEvent::Show || event->type() == QEvent::Hide)
             d->refreshPlaceholder();
+    } else if (watched == d->sectionWidget->tabBar()) {
+        if (event->type() == QEvent::MouseButtonPress)
+            return d->pressSection(static_cast<QMouseEvent *>(event));
     } else if (event->type() == QEvent::MouseButtonRelease) {
         const auto *mouse = static_cast<QMouseEvent *>(event);
         const auto *tabs = qobject_cast<QTabWidget *>(watched);

@@ -12,6 +12,8 @@
 
 #include <array>
 
+class QMouseEvent;
+
 namespace VornFrame {
 
 class DockContentWidgetPrivate
@@ -33,6 +35,8 @@ public:
 
     void changeSection(int index);
     void changeTab(const QTabWidget *tabs, int index);
+    int insertTab(QTabWidget *tabs, QWidget *widget, const QString &text);
+    bool pressSection(const QMouseEvent *event) const;
     void enterFilled();
     void leaveFilled();
     static void polishTabBar(QTabBar *bar);

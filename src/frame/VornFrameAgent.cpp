@@ -7,8 +7,12 @@
 
 #include "core/StyleSheets.h"
 
+#include <VornFrame/DockContentWidget.h>
+#include <VornFrame/DockPanelWidget.h>
+
 #include <QApplication>
 #include <QDialog>
+#include <QMainWindow>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QStyleHints>
@@ -63,6 +67,13 @@ QFrame *createRule()
 
 } // namespace
 
+/// Whether this is the first call. To be asked before the set-up itself: setting the application's
+/// sheet can lead back to it.
+bool VornFrameAgentPrivate::beginSetup()
+{
+    return !std::exchange(setupOnce, true);
+}
+
 void VornFrameAgentPrivate::setupDialog(QDialog *dialog, QWidget *content) const
 {
     delete dialog->layout();
@@ -75,6 +86,54 @@ void VornFrameAgentPrivate::setupDialog(QDialog *dialog, QWidget *content) const
     if (content)
         layout->addWidget(content);
     StyleSheets::installGlobalSheet(dialog);
+}
+
+void VornFrameAgentPrivate::setupMainWindow(QMainWindow *window, bool withAddressBar,
+                                            bool withDockPanels)
+{
+    auto *central = new QWidget;
+    window->setCentralWidget(central);
+    auto *layout = new QVBoxLayout(central);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    if (ribbonBar)
+        layout->addWidget(ribbonBar);
+    if (withAddressBar) {
+        addressBar = new AddressBar;
+        layout->addWidget(addressBar);
+    }
+    dockContainer = new DockContainer;
+    layout->addWidget(dockContainer, 1);
+    if (withDockPanels) {
+        dockContainer->setupMainWindow(window);
+    } else {
+        for (const auto area : {DockContainer::Left, DockContainer::Bottom, DockContainer::Right})
+            dockContainer->panelWidget(area)->panel()->hide();
+    }
+    QObject::connect(dockContainer->contentWidget(),
+                     &DockContentWidget::signalCurrentSectionChanged, q_ptr,
+                     [this](int section) { showPagesOf(section); });
+    StyleSheets::installGlobalSheet(window);
+}
+
+/// \a section has become the current one. Pages that come and go are seen by the host, which may
+/// delete agent and window meanwhile.
+void VornFrameAgentPrivate::showPagesOf(int section) const
+{
+    const QPointer<RibbonBar> bar = ribbonBar;
+    const Pages pages = bindings.value(section);
+    if (bar)
+        bar->hideTemporaryPages();
+    if (bar && pages.isEmpty())
+        bar->setCurrentIndex(0);
+    for (qsizetype i = 0; bar && i < pages.size(); ++i) {
+        if (!pages.at(i))
+            continue;
+        const int index = bar->indexOf(pages.at(i));
+        bar->setPageVisible(index, true);
+        if (i == 0 && bar)
+            bar->setCurrentIndex(index);
+    }
 }
 
 VornFrameAgent::VornFrameAgent(QObject *parent) : VornFrameAgent(*new VornFrameAgentPrivate, parent)
@@ -92,11 +151,24 @@ VornFrameAgent::~VornFrameAgent() = default;
 void VornFrameAgent::setup(QDialog *dialog, QWidget *content)
 {
     Q_D(VornFrameAgent);
-    // Before the set-up itself: setting the application's sheet can lead back here.
-    if (std::exchange(d->setupOnce, true))
-        return;
-    if (dialog)
+    if (d->beginSetup() && dialog)
         d->setupDialog(dialog, content);
+}
+
+void VornFrameAgent::setup(QMainWindow *window, bool addressBar, bool dockPanels)
+{
+    Q_D(VornFrameAgent);
+    if (d->beginSetup() && window)
+        d->setupMainWindow(window, addressBar, dockPanels);
+}
+
+bool VornFrameAgent::bindRibbonPagesAndDockPartition(const QList<RibbonPage *> &pages, int section)
+{
+    Q_D(VornFrameAgent);
+    if (pages.isEmpty() || !d->dockContainer)
+        return false;
+    d->bindings.insert(section, VornFrameAgentPrivate::Pages(pages.cbegin(), pages.cend()));
+    return true;
 }
 
 RibbonBar *VornFrameAgent::ribbonBar() const

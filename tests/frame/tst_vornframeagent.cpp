@@ -4,6 +4,8 @@
 #include <VornFrame/RibbonBar.h>
 #include <VornFrame/VornFrameAgent.h>
 
+#include "LookRestorer.h"
+
 #include "frame/VornFrameAgent_p.h"
 #include "support/Input.h"
 #include "support/TestCase.h"
@@ -28,24 +30,6 @@ using namespace VornFrame;
 
 namespace {
 
-/// Puts the application's look back as it was, whatever a set-up did to it.
-class LookRestorer
-{
-    Q_DISABLE_COPY_MOVE(LookRestorer)
-
-public:
-    LookRestorer() = default;
-    ~LookRestorer()
-    {
-        qApp->setStyleSheet(m_sheet);
-        QApplication::setPalette(m_palette);
-    }
-
-private:
-    const QString m_sheet = qApp->styleSheet();
-    const QPalette m_palette = QApplication::palette();
-};
-
 /// A dialog whose agent was asked to dress it, and the content that it was given.
 struct DressedDialog
 {
@@ -63,12 +47,6 @@ struct DressedDialog
     QLabel *content = new QLabel(u"content"_s);
     std::unique_ptr<VornFrameAgent> agent = std::make_unique<VornFrameAgent>();
 };
-
-QString globalSheet()
-{
-    QFile file(u":/vornframe/vornframelight.css"_s);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
 
 class CountedPrivate : public VornFrameAgentPrivate
 {
