@@ -19,15 +19,12 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QMenu>
-#include <QPointer>
 #include <QPushButton>
 #include <QScreen>
 #include <QStringList>
 #include <QTest>
 #include <QToolButton>
 #include <QVBoxLayout>
-
-#include <initializer_list>
 
 /// A gallery in a window, and its parts.
 namespace GalleryParts {
@@ -127,7 +124,7 @@ public:
         auto *column = new QVBoxLayout(this);
         column->addWidget(m_field);
         auto *row = new QHBoxLayout;
-        row->addWidget(m_gallery);
+        row->addWidget(new VornFrame::RibbonGallery);
         row->addStretch();
         column->addLayout(row);
         column->addStretch();
@@ -148,42 +145,39 @@ public:
     /// Clicks the button of the gallery.
     [[nodiscard]] bool openPopup()
     {
-        Input::click(buttonOf(m_gallery));
-        return QTest::qWaitForWindowExposed(menuOf(m_gallery));
+        Input::click(buttonOf(gallery()));
+        return QTest::qWaitForWindowExposed(menuOf(gallery()));
     }
     /// Moves the window so that a popup can be \a height px high.
     void leaveRoom(int height)
     {
         const int screen = QGuiApplication::primaryScreen()->geometry().height();
-        const int top = m_gallery->mapToGlobal(QPoint(0, 0)).y();
+        const int top = gallery()->mapToGlobal(QPoint(0, 0)).y();
         move(x(), y() + screen - 30 - height - top);
     }
     /// What makes the strip follow.
     void showAgain()
     {
-        m_gallery->hide();
-        m_gallery->show();
+        gallery()->hide();
+        gallery()->show();
     }
 
-    VornFrame::RibbonGallery *gallery() const { return m_gallery; }
+    /// Null when it was deleted.
+    VornFrame::RibbonGallery *gallery() const { return findChild<VornFrame::RibbonGallery *>(); }
     QLineEdit *field() const { return m_field; }
-    void deleteGallery()
-    {
-        delete m_gallery.data();
-        m_gallery.clear(); // it has done so by itself, which static analysis does not see
-    }
+    void deleteGallery() const { delete gallery(); }
 
     /// A new action in \a group.
     QAction *addItem(int group, const QString &text)
     {
         auto *action = new QAction(text, &m_actions);
-        m_gallery->addItem(group, action);
+        gallery()->addItem(group, action);
         return action;
     }
     /// A new group with these items; returns its index.
     int addGroup(const QString &name, std::initializer_list<QString> items)
     {
-        const int group = m_gallery->addGroup(name);
+        const int group = gallery()->addGroup(name);
         for (const QString &text : items)
             addItem(group, text);
         return group;
@@ -191,20 +185,19 @@ public:
     /// A new group with \a count items.
     int addGroup(const QString &name, int count)
     {
-        const int group = m_gallery->addGroup(name);
+        const int group = gallery()->addGroup(name);
         for (int i = 0; i < count; ++i)
             addItem(group, name + QString::number(i));
         return group;
     }
     QAction *action(int group, int item) const
     {
-        return groupsOf(m_gallery).at(group)->item(item)->defaultAction();
+        return groupsOf(gallery()).at(group)->item(item)->defaultAction();
     }
 
 private:
     QObject m_actions;
     QLineEdit *m_field = new QLineEdit;
-    QPointer<VornFrame::RibbonGallery> m_gallery = new VornFrame::RibbonGallery;
 };
 
 } // namespace GalleryParts

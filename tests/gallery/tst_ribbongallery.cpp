@@ -9,6 +9,7 @@
 #include <QAccessible>
 #include <QIcon>
 #include <QMetaMethod>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QWidgetAction>
 

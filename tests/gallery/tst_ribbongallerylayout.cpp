@@ -25,11 +25,11 @@ class Block : public QLayoutItem
 public:
     explicit Block(QSize hint = TileSize, QSize minimum = {}) : m_hint(hint), m_minimum(minimum)
     {
-        ++instances;
+        ++aliveCount;
     }
-    ~Block() override { --instances; }
+    ~Block() override { --aliveCount; }
 
-    static int count() { return instances; }
+    static int count() { return aliveCount; }
 
     QSize sizeHint() const override { return m_hint; }
     QSize minimumSize() const override { return m_minimum; }
@@ -42,7 +42,7 @@ public:
 private:
     Q_DISABLE_COPY_MOVE(Block)
 
-    static inline int instances = 0;
+    static inline int aliveCount = 0;
 
     QSize m_hint;
     QSize m_minimum;

@@ -6,6 +6,7 @@
 #include "support/TestCase.h"
 
 #include <QApplication>
+#include <QPointer>
 #include <QScrollBar>
 #include <QSignalSpy>
 

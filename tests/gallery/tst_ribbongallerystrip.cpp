@@ -5,6 +5,7 @@
 
 #include "support/TestCase.h"
 
+#include <QPointer>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
