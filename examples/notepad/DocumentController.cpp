@@ -5,6 +5,7 @@
 
 #include "Messages.h"
 #include "NotepadActions.h"
+#include "StyledText.h"
 #include "TextEditor.h"
 
 #include <QDir>
@@ -31,6 +32,12 @@ bool isSameFile(const QString &path, const QString &other)
 {
     const QString canonical = QFileInfo(path).canonicalFilePath();
     return !canonical.isEmpty() && canonical == QFileInfo(other).canonicalFilePath();
+}
+
+bool isHtmlName(const QString &path)
+{
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    return suffix == u"html" || suffix == u"htm";
 }
 
 } // namespace
@@ -66,12 +73,22 @@ TextFile::Status DocumentController::load(const QString &path)
     return waiting([this, &path] {
         TextFile::Status status = m_file.load(path);
         if (status.ok()) {
-            m_editor->setText(m_file.text());
+            showText();
             showFile();
             Q_EMIT reported(tr("Opened “%1”").arg(name()));
         }
         return status;
     });
+}
+
+void DocumentController::showText()
+{
+    m_isStyledFile = isHtmlName(m_file.path()) && StyledText::isReadable(m_file.text());
+    m_areStylesDropped = false;
+    if (m_isStyledFile)
+        m_editor->setStyledText(m_file.text());
+    else
+        m_editor->setText(m_file.text());
 }
 
 bool DocumentController::openPath(const QString &path)
@@ -104,7 +121,7 @@ void DocumentController::newFile()
     if (!mayLoseText())
         return;
     m_file = TextFile();
-    m_editor->setText(QString());
+    showText();
     showFile();
 }
 
@@ -113,7 +130,7 @@ void DocumentController::open()
     if (!mayLoseText())
         return;
     const QString filter = tr(
-        "Text files (*.txt *.md *.log *.csv *.ini *.json *.xml);;All files (*)");
+        "Text files (*.txt *.md *.log *.csv *.html *.htm *.ini *.json *.xml);;All files (*)");
     const QString path = QFileDialog::getOpenFileName(m_window, tr("Open"), folder(), filter,
                                                       nullptr);
     if (!path.isEmpty())
@@ -161,22 +178,66 @@ void DocumentController::saveCopy()
         saveTo(path);
         return;
     }
+    const std::optional<QString> text = textFor(path);
+    if (!text)
+        return;
     const TextFile::Status status = waiting(
-        [this, &path] { return m_file.saveCopy(path, m_editor->text()); });
+        [this, &path, &text] { return m_file.saveCopy(path, *text); });
     if (status.ok())
         Q_EMIT reported(tr("Saved a copy as “%1”").arg(QDir::toNativeSeparators(path)));
     else
         sayNotSaved(path, status);
 }
 
+/// What the file at \a path is to hold; nothing if the text shall not be saved there.
+std::optional<QString> DocumentController::textFor(const QString &path) const
+{
+    if (!keepsStyles(path))
+        return mayDropStyles(path) ? std::optional(m_editor->text()) : std::nullopt;
+    const QString html = StyledText::toHtml(*m_editor->document());
+    if (StyledText::isReadable(html))
+        return html;
+    sayNotSaved(path, {TextFile::Error::WriteFailed,
+                       tr("It holds control characters, which HTML cannot keep.")});
+    return std::nullopt;
+}
+
+/// The file that is open stays what it is: somebody may be writing a page by hand. A page that is
+/// written by hand has no styles, so it is plain text under a new name too.
+bool DocumentController::keepsStyles(const QString &path) const
+{
+    if (path == m_file.path() || isSameFile(path, m_file.path()))
+        return m_isStyledFile;
+    return isHtmlName(path) && StyledText::hasStyles(*m_editor->document());
+}
+
+/// Whether the text may be saved to \a path without its styles: there are none, or the user does
+/// not need them.
+bool DocumentController::mayDropStyles(const QString &path) const
+{
+    const bool isKnown = path == m_file.path() && m_areStylesDropped;
+    if (isKnown || !StyledText::hasStyles(*m_editor->document()))
+        return true;
+    const QString text = tr("“%1” is plain text, which holds no styles. Save As keeps them, in "
+                            "another file with a name that ends in .html.")
+                             .arg(QFileInfo(path).fileName());
+    return Messages::confirm(m_window, text, tr("Save Without Styles"));
+}
+
 bool DocumentController::saveTo(const QString &path)
 {
+    const bool isStyledFile = keepsStyles(path);
+    const std::optional<QString> text = textFor(path);
+    if (!text)
+        return false;
     const TextFile::Status status = waiting(
-        [this, &path] { return m_file.save(path, m_editor->text()); });
+        [this, &path, &text] { return m_file.save(path, *text); });
     if (!status.ok()) {
         sayNotSaved(path, status);
         return false;
     }
+    m_isStyledFile = isStyledFile;
+    m_areStylesDropped = !isStyledFile && StyledText::hasStyles(*m_editor->document());
     m_editor->document()->setModified(false);
     showFile();
     Q_EMIT reported(tr("Saved “%1”").arg(name()));
@@ -191,9 +252,11 @@ void DocumentController::sayNotSaved(const QString &path, const TextFile::Status
 
 QString DocumentController::askForTarget(const QString &title) const
 {
-    const QString proposal = m_file.path().isEmpty() ? QDir(folder()).filePath(name() + u".txt"_s)
+    const bool isStyled = StyledText::hasStyles(*m_editor->document());
+    const QString newName = name() + (isStyled ? u".html"_s : u".txt"_s);
+    const QString proposal = m_file.path().isEmpty() ? QDir(folder()).filePath(newName)
                                                      : m_file.path();
-    const QString filter = tr("Text files (*.txt);;All files (*)");
+    const QString filter = tr("Text files (*.txt);;Text with styles (*.html *.htm);;All files (*)");
     QString chosenFilter = tr("All files (*)");
     return QFileDialog::getSaveFileName(m_window, title, proposal, filter, &chosenFilter);
 }

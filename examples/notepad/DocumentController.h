@@ -7,11 +7,19 @@
 
 #include <QObject>
 
+#include <optional>
+
 class NotepadActions;
 class TextEditor;
 
 /// The way of the text between the editor and its file: new, open, save, and the questions before
 /// something would be lost.
+///
+/// A file is plain text, read and written to the letter, and styles are a matter of the window:
+/// markup never gets into such a file. Styles are kept in HTML files that this program wrote from
+/// styled text; any other HTML file is plain text too, its source. So a text with styles becomes a
+/// file of its own when it is saved under a name that ends in .html or .htm, and whenever a save
+/// would drop styles the user is asked first.
 class DocumentController : public QObject
 {
     Q_OBJECT
@@ -52,6 +60,10 @@ private:
     void openDropped(const QString &path);
     void reload();
     void saveCopy();
+    void showText();
+    std::optional<QString> textFor(const QString &path) const;
+    bool keepsStyles(const QString &path) const;
+    bool mayDropStyles(const QString &path) const;
     bool saveTo(const QString &path);
     void sayNotSaved(const QString &path, const TextFile::Status &status) const;
     QString askForTarget(const QString &title) const;
@@ -64,4 +76,8 @@ private:
     NotepadActions *m_actions;
     QWidget *m_window;
     TextFile m_file;
+    /// Whether the file holds the styles of the text.
+    bool m_isStyledFile = false;
+    /// The user knows that the file does not hold them.
+    bool m_areStylesDropped = false;
 };

@@ -5,6 +5,7 @@
 
 #include "FindField.h"
 #include "NotepadActions.h"
+#include "StyledText.h"
 #include "TextEditor.h"
 
 #include <QLabel>
@@ -152,11 +153,32 @@ void FindController::replaceAll()
         return;
     const TextSearch::Replaced replaced = TextSearch::replaceAll(m_editor->text(), m_pattern,
                                                                  m_replaceField->text(), m_options);
-    if (replaced.count > 0)
+    if (StyledText::hasStyles(*m_editor->document()))
+        replaceEach();
+    else if (replaced.count > 0)
         m_editor->replaceText(replaced.text);
     m_countTimer.stop();
     showResult(tr("%1 replaced").arg(QLocale().toString(replaced.count)), replaced.count == 0);
     Q_EMIT reported(m_resultLabel->text());
+}
+
+/// Place by place, so that all other text keeps its styles.
+void FindController::replaceEach()
+{
+    const QString text = m_editor->text();
+    const QString replacement = m_replaceField->text();
+    QTextCursor cursor(m_editor->document());
+    cursor.beginEditBlock();
+    qsizetype shift = 0;
+    TextSearch::Match match = TextSearch::findNext(text, m_pattern, 0, m_options);
+    while (match.isValid()) {
+        cursor.setPosition(int(match.start + shift));
+        cursor.setPosition(int(match.end() + shift), QTextCursor::KeepAnchor);
+        cursor.insertText(replacement);
+        shift += replacement.size() - match.length;
+        match = TextSearch::findNext(text, m_pattern, match.end(), m_options);
+    }
+    cursor.endEditBlock();
 }
 
 bool FindController::isMatchSelected() const

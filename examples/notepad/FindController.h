@@ -46,6 +46,7 @@ private:
     void findWhileTyping();
     void replaceNext();
     void replaceAll();
+    void replaceEach();
     void searchAgain();
     bool isMatchSelected() const;
     void selectMatch(const TextSearch::Match &match, const QString &note);

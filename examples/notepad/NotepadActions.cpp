@@ -31,6 +31,7 @@ NotepadActions::NotepadActions(QWidget *window) : QObject(window), m_window(wind
     createEditActions();
     createInsertActions();
     createFormatActions();
+    createStyleActions();
     createFindActions();
     createShowActions();
     createZoomActions();
@@ -105,6 +106,12 @@ void NotepadActions::createFormatActions()
     lineEnds->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
     lineEnds->addAction(lineEndLf);
     lineEnds->addAction(lineEndCrLf);
+}
+
+void NotepadActions::createStyleActions()
+{
+    clearStyles = create(u"clearStyles"_s, tr("Clear\nStyles"), u"Ctrl+\\"_s,
+                         tr("Makes the selected text plain, or else this paragraph"));
 }
 
 void NotepadActions::createFindActions()

@@ -46,6 +46,8 @@ public:
     QAction *byteOrderMark = nullptr;
     QMenu *formatMenu = nullptr;
 
+    QAction *clearStyles = nullptr;
+
     QAction *find = nullptr;
     QAction *replace = nullptr;
     QAction *quickFind = nullptr;
@@ -91,6 +93,7 @@ private:
     void createEditActions();
     void createInsertActions();
     void createFormatActions();
+    void createStyleActions();
     void createFindActions();
     void createShowActions();
     void createZoomActions();

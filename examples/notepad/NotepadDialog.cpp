@@ -11,6 +11,7 @@
 #include "NotepadRibbon.h"
 #include "SelectionController.h"
 #include "ShortcutsDialog.h"
+#include "StyleController.h"
 #include "TextEditor.h"
 #include "ViewController.h"
 
@@ -39,6 +40,7 @@ NotepadDialog::NotepadDialog(QWidget *parent)
       m_status(new EditorStatusBar), m_document(new DocumentController(m_editor, m_actions, this)),
       m_find(new FindController(m_editor, m_actions)),
       m_selection(new SelectionController(m_editor, m_actions)),
+      m_styles(new StyleController(m_editor, m_actions)),
       m_view(new ViewController(m_editor, m_actions, this))
 {
     m_editor->setObjectName(u"editor"_s);
@@ -64,7 +66,8 @@ void NotepadDialog::createContent()
     layout->addWidget(m_status);
 
     auto *agent = new VornFrameAgent(this);
-    m_ribbon = new NotepadRibbon(agent->ribbonBar(), {m_actions, m_find, m_selection, m_view});
+    m_ribbon = new NotepadRibbon(agent->ribbonBar(),
+                                 {m_actions, m_find, m_selection, m_styles, m_view});
     agent->setup(this, content);
 }
 
@@ -130,6 +133,7 @@ void NotepadDialog::connectStatus()
     connect(m_document, &DocumentController::fileChanged, this, &NotepadDialog::showTitle);
     connect(m_document, &DocumentController::reported, m_status, &EditorStatusBar::showMessage);
     connect(m_find, &FindController::reported, m_status, &EditorStatusBar::showMessage);
+    connect(m_styles, &StyleController::reported, m_status, &EditorStatusBar::showMessage);
     connect(m_editor, &QPlainTextEdit::modificationChanged, this, &QWidget::setWindowModified);
     connect(m_editor, &QPlainTextEdit::cursorPositionChanged, this, &NotepadDialog::showPosition);
     connect(m_editor, &QPlainTextEdit::textChanged, this, &NotepadDialog::showPosition);

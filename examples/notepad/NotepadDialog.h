@@ -11,6 +11,7 @@ class FindController;
 class NotepadActions;
 class NotepadRibbon;
 class SelectionController;
+class StyleController;
 class TextEditor;
 class ViewController;
 
@@ -24,6 +25,7 @@ public:
     explicit NotepadDialog(QWidget *parent = nullptr);
 
     DocumentController *document() const { return m_document; }
+    NotepadRibbon *ribbon() const { return m_ribbon; }
 
     /// Asks about unsaved changes first. Closing the window comes here too.
     void reject() override;
@@ -49,6 +51,7 @@ private:
     DocumentController *m_document;
     FindController *m_find;
     SelectionController *m_selection;
+    StyleController *m_styles;
     ViewController *m_view;
     NotepadRibbon *m_ribbon = nullptr;
 };

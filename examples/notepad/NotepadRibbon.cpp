@@ -7,10 +7,12 @@
 #include "FindField.h"
 #include "NotepadActions.h"
 #include "SelectionController.h"
+#include "StyleController.h"
 #include "ViewController.h"
 
 #include <VornFrame/RibbonBar.h>
 #include <VornFrame/RibbonCorner.h>
+#include <VornFrame/RibbonGallery.h>
 #include <VornFrame/RibbonGroup.h>
 #include <VornFrame/RibbonPage.h>
 #include <VornFrame/RibbonSubgroup.h>
@@ -50,6 +52,7 @@ NotepadRibbon::NotepadRibbon(RibbonBar *bar, const Parts &parts)
 {
     buildHomePage();
     buildFindPage();
+    buildStylesPage();
     buildViewPage();
     buildSelectionPage();
     fillCorner();
@@ -60,9 +63,16 @@ NotepadRibbon::NotepadRibbon(RibbonBar *bar, const Parts &parts)
     showHomePage();
 }
 
+RibbonPage *NotepadRibbon::addPage(const QString &title)
+{
+    RibbonPage *page = m_bar->addPage(title);
+    m_pages.insert(QString(title).remove(u'&').toCaseFolded(), page);
+    return page;
+}
+
 void NotepadRibbon::buildHomePage()
 {
-    m_homePage = m_bar->addPage(tr("&Home"));
+    m_homePage = addPage(tr("&Home"));
     buildFileGroup();
     buildClipboardGroup();
     buildFontGroup();
@@ -122,7 +132,7 @@ void NotepadRibbon::buildTextGroup()
 void NotepadRibbon::buildFindPage()
 {
     NotepadActions *actions = m_parts.actions;
-    m_findPage = m_bar->addPage(tr("&Find"));
+    m_findPage = addPage(tr("&Find"));
     RibbonGroup *group = m_findPage->addGroup(tr("Find and Replace"));
     RibbonSubgroup *fields = group->addSubgroup();
     fields->setContentsMargins(FieldMargins);
@@ -143,10 +153,17 @@ void NotepadRibbon::buildFindPage()
     m_findPage->addGroup(tr("Go To"))->addAction(actions->goToLine);
 }
 
+void NotepadRibbon::buildStylesPage()
+{
+    RibbonPage *page = addPage(tr("S&tyles"));
+    page->addGroup(tr("Text Styles"))->addWidget(m_parts.styles->gallery());
+    page->addGroup(tr("Plain Text"))->addAction(m_parts.actions->clearStyles);
+}
+
 void NotepadRibbon::buildViewPage()
 {
     NotepadActions *actions = m_parts.actions;
-    RibbonPage *page = m_bar->addPage(tr("&View"));
+    RibbonPage *page = addPage(tr("&View"));
     RibbonGroup *show = page->addGroup(tr("Show"));
     show->addAction(actions->wordWrap);
     show->addAction(actions->lineNumbers);
@@ -209,6 +226,14 @@ void NotepadRibbon::showHomePage()
 void NotepadRibbon::showFindPage()
 {
     showPage(m_findPage);
+}
+
+bool NotepadRibbon::showPage(const QString &title)
+{
+    RibbonPage *page = m_pages.value(title.toCaseFolded());
+    if (page)
+        showPage(page);
+    return page != nullptr;
 }
 
 void NotepadRibbon::showPage(RibbonPage *page)

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QHash>
 #include <QObject>
 
 class FindController;
@@ -10,6 +11,7 @@ class NotepadActions;
 class QMenu;
 class QToolButton;
 class SelectionController;
+class StyleController;
 class ViewController;
 
 namespace VornFrame {
@@ -30,6 +32,7 @@ public:
         NotepadActions *actions;
         FindController *find;
         SelectionController *selection;
+        StyleController *styles;
         ViewController *view;
     };
 
@@ -39,6 +42,10 @@ public:
     void showHomePage();
     void showFindPage();
 
+    /// Makes the page of this \a title current, written in letters of any case; false if there is
+    /// none.
+    bool showPage(const QString &title);
+
     /// Shows or hides the tab of the page for selected text. The page does not push itself to the
     /// front; when it goes while it is current, the page comes back that the user had before.
     void setSelectionPageVisible(bool visible);
@@ -47,12 +54,14 @@ public:
     void openMenu(QMenu *menu);
 
 private:
+    VornFrame::RibbonPage *addPage(const QString &title);
     void buildHomePage();
     void buildFileGroup();
     void buildClipboardGroup();
     void buildFontGroup();
     void buildTextGroup();
     void buildFindPage();
+    void buildStylesPage();
     void buildViewPage();
     void buildSelectionPage();
     void fillCorner();
@@ -62,6 +71,8 @@ private:
 
     VornFrame::RibbonBar *m_bar;
     Parts m_parts;
+    /// Those that are always there, by their titles without marks.
+    QHash<QString, VornFrame::RibbonPage *> m_pages;
     VornFrame::RibbonPage *m_homePage = nullptr;
     VornFrame::RibbonPage *m_findPage = nullptr;
     VornFrame::RibbonPage *m_selectionPage = nullptr;

@@ -37,7 +37,8 @@ ShortcutsDialog::ShortcutsDialog(QWidget *window) : QDialog(window), m_table(new
     m_table->horizontalHeader()->setStretchLastSection(true);
     m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
 
-    addRow(tr("Pages"), tr("Alt+H, Alt+F, Alt+V, Alt+S"), tr("Home, Find, View, Selection"));
+    addRow(tr("Pages"), tr("Alt+H, Alt+F, Alt+T, Alt+V, Alt+S"),
+           tr("Home, Find, Styles, View, Selection"));
     addRow(tr("Menus"), tr("Alt+Shift+S, Alt+I, Alt+O"), tr("Ways to save, Insert, Format"));
     const QList<QAction *> actions = window->actions();
     for (const QAction *action : actions)

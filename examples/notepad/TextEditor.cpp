@@ -4,6 +4,7 @@
 #include "TextEditor.h"
 
 #include "LineNumberArea.h"
+#include "StyledText.h"
 
 #include <QMimeData>
 #include <QPainter>
@@ -31,6 +32,15 @@ constexpr QColor LineNumberLine(230, 230, 230);
 constexpr QColor LineNumberColor(140, 140, 140);
 constexpr QColor CurrentLineNumberColor(0, 64, 115);
 
+/// Whether both are lines of the same lengths.
+bool haveSameLines(const QString &text, const QString &other)
+{
+    const auto isAlike = [](QChar first, QChar second) {
+        return (first == u'\n') == (second == u'\n');
+    };
+    return std::equal(text.cbegin(), text.cend(), other.cbegin(), other.cend(), isAlike);
+}
+
 } // namespace
 
 TextEditor::TextEditor(QWidget *parent)
@@ -57,9 +67,20 @@ QString TextEditor::text() const
 
 void TextEditor::setText(const QString &text)
 {
+    // All of the text would look like what is at the cursor now.
+    setCurrentCharFormat(QTextCharFormat());
     setPlainText(text);
     // A document margin counts as a change that can be undone, each time that it is laid round an
     // empty text.
+    document()->clearUndoRedoStacks();
+    document()->setModified(false);
+}
+
+void TextEditor::setStyledText(const QString &html)
+{
+    setText(QString());
+    StyledText::insert(html, QTextCursor(document()));
+    moveCursor(QTextCursor::Start);
     document()->clearUndoRedoStacks();
     document()->setModified(false);
 }
@@ -93,8 +114,30 @@ void TextEditor::replaceSelection(const QString &text)
 {
     QTextCursor cursor = textCursor();
     const int start = cursor.selectionStart();
-    cursor.insertText(text);
-    select(start, cursor.position() - start);
+    if (StyledText::hasStyles(*document()) && haveSameLines(text, selectedText()))
+        replacePieces(start, text);
+    else
+        cursor.insertText(text);
+    select(start, text.size());
+}
+
+/// Puts \a text in place of as much text from \a start on, in which the lines are as long. Each piece
+/// keeps its styles.
+void TextEditor::replacePieces(int start, const QString &text)
+{
+    const int end = start + static_cast<int>(text.size());
+    QTextCursor cursor(document());
+    cursor.beginEditBlock();
+    QTextBlock block = document()->findBlock(start);
+    for (; block.isValid() && block.position() < end; block = block.next()) {
+        const QList<StyledText::Piece> pieces = StyledText::pieces(block, start, end);
+        for (const StyledText::Piece &piece : pieces) {
+            cursor.setPosition(piece.start);
+            cursor.setPosition(piece.end, QTextCursor::KeepAnchor);
+            cursor.insertText(text.mid(piece.start - start, piece.end - piece.start), piece.format);
+        }
+    }
+    cursor.endEditBlock();
 }
 
 void TextEditor::replaceText(const QString &text)
@@ -153,8 +196,9 @@ void TextEditor::paintLineNumbers(QWidget *area, const QRect &exposed) const
     while (block.isValid() && top <= exposed.bottom()) {
         const bool isCurrent = block.blockNumber() == current;
         painter.setPen(isCurrent ? CurrentLineNumberColor : LineNumberColor);
+        // Beside the first line of the block, however large its letters are.
         const QRect number(0, qRound(top), area->width() - LineNumber_Margin,
-                           fontMetrics().height());
+                           qRound(block.layout()->lineAt(0).height()));
         painter.drawText(QStyle::visualRect(layoutDirection(), area->rect(), number),
                          Qt::AlignRight | Qt::AlignVCenter,
                          QString::number(block.blockNumber() + 1));
@@ -172,13 +216,19 @@ QMimeData *TextEditor::createMimeDataFromSelection() const
 {
     auto *source = new QMimeData; // the clipboard, or the drag, becomes the owner
     source->setText(selectedText());
+    const QString html = StyledText::toHtml(textCursor());
+    if (!html.isEmpty())
+        source->setHtml(html);
     return source;
 }
 
 void TextEditor::insertFromMimeData(const QMimeData *source)
 {
-    // A text file holds no NUL; with one it would not open again.
-    textCursor().insertText(source->text().remove(QChar::Null));
+    // Of styles, only those that the editor itself put there: a page would bring any font and size.
+    if (source->hasHtml() && StyledText::isReadable(source->html()))
+        StyledText::insert(source->html(), textCursor());
+    else // A text file holds no NUL; with one it would not open again.
+        textCursor().insertText(source->text().remove(QChar::Null));
     ensureCursorVisible();
 }
 
@@ -205,26 +255,74 @@ void TextEditor::changeEvent(QEvent *event)
 
 void TextEditor::keyPressEvent(QKeyEvent *event)
 {
-    // The base class would insert a line separator, which is no line end for other programs.
-    if (event->matches(QKeySequence::InsertLineSeparator)) {
+    const bool startsLine = event->matches(QKeySequence::InsertParagraphSeparator)
+                            || event->matches(QKeySequence::InsertLineSeparator);
+    const bool leavesHeading = startsLine && isAtEndOfHeading();
+    if (startsLine) {
+        // The base class would insert a line separator, which is no line end for other programs, or
+        // take only a part of its style from a heading.
         textCursor().insertBlock();
         ensureCursorVisible();
-        return;
+    } else {
+        QPlainTextEdit::keyPressEvent(event);
     }
-    QPlainTextEdit::keyPressEvent(event);
+    if (leavesHeading)
+        makeNewLinePlain();
+}
+
+bool TextEditor::isAtEndOfHeading() const
+{
+    const QTextCursor cursor = textCursor();
+    return cursor.blockFormat().headingLevel() > 0 && cursor.atBlockEnd();
+}
+
+/// What follows a heading is the text that it is the heading of.
+void TextEditor::makeNewLinePlain()
+{
+    QTextCursor cursor = textCursor();
+    cursor.joinPreviousEditBlock();
+    cursor.setBlockFormat(QTextBlockFormat());
+    cursor.setBlockCharFormat(QTextCharFormat());
+    cursor.endEditBlock();
+    setCurrentCharFormat(QTextCharFormat());
 }
 
 void TextEditor::paintEvent(QPaintEvent *event)
 {
-    {
-        // Under the text, which the base class paints without a background.
-        QPainter painter(viewport());
-        if (m_currentLineMarked && !textCursor().hasSelection())
-            drawCurrentLine(painter);
-        if (!m_pattern.isEmpty())
-            drawMarks(painter);
-    }
+    drawGrounds();
     QPlainTextEdit::paintEvent(event);
+    // As a marker does it on paper: the text can still be read, also on coloured paragraphs.
+    QPainter painter(viewport());
+    painter.setCompositionMode(QPainter::CompositionMode_Multiply);
+    if (m_currentLineMarked && !textCursor().hasSelection())
+        drawCurrentLine(painter);
+    if (!m_pattern.isEmpty())
+        drawMarks(painter);
+}
+
+QList<QTextBlock> TextEditor::visibleBlocks() const
+{
+    QList<QTextBlock> blocks;
+    const int bottom = viewport()->height();
+    for (QTextBlock block = firstVisibleBlock();
+         block.isValid() && blockBoundingGeometry(block).translated(contentOffset()).top() < bottom;
+         block = block.next())
+        blocks += block;
+    return blocks;
+}
+
+/// The base class leaves an edge of coloured paragraphs white.
+void TextEditor::drawGrounds() const
+{
+    QPainter painter(viewport());
+    const QList<QTextBlock> blocks = visibleBlocks();
+    for (const QTextBlock &block : blocks) {
+        const QBrush ground = block.blockFormat().background();
+        if (ground == Qt::NoBrush)
+            continue;
+        const QRectF place = blockBoundingGeometry(block).translated(contentOffset());
+        painter.fillRect(QRectF(0, place.top(), viewport()->width(), place.height()), ground);
+    }
 }
 
 void TextEditor::drawCurrentLine(QPainter &painter) const
@@ -236,13 +334,9 @@ void TextEditor::drawCurrentLine(QPainter &painter) const
 
 void TextEditor::drawMarks(QPainter &painter) const
 {
-    QTextBlock block = firstVisibleBlock();
-    while (block.isValid()
-           && blockBoundingGeometry(block).translated(contentOffset()).top()
-                  < viewport()->height()) {
+    const QList<QTextBlock> blocks = visibleBlocks();
+    for (const QTextBlock &block : blocks)
         drawMarksOf(block, painter);
-        block = block.next();
-    }
 }
 
 /// Only the lines that can be seen: a file may be one line of millions of characters.
@@ -264,13 +358,22 @@ void TextEditor::drawMarksOf(const QTextBlock &block, QPainter &painter) const
     const int start = std::max(0, layout->lineAt(first).textStart() - int(m_pattern.size()));
     const int end = layout->lineAt(last - 1).textStart() + layout->lineAt(last - 1).textLength();
     TextSearch::Match match = TextSearch::findNext(text, m_pattern, start, m_options);
-    while (match.isValid() && match.start < end) {
+    for (; match.isValid() && match.start < end;
+         match = TextSearch::findNext(text, m_pattern, match.end(), m_options)) {
+        if (isSelected(block.position() + match.start, match.length))
+            continue;
         const int firstOfMatch = layout->lineForTextPosition(int(match.start)).lineNumber();
         for (int i = std::max(first, firstOfMatch);
              i < last && layout->lineAt(i).textStart() < match.end(); ++i)
             drawMark(match, layout->lineAt(i), origin, painter);
-        match = TextSearch::findNext(text, m_pattern, match.end(), m_options);
     }
+}
+
+/// Whether any of the text has the colour of selected text.
+bool TextEditor::isSelected(qsizetype start, qsizetype length) const
+{
+    const QTextCursor cursor = textCursor();
+    return cursor.selectionStart() < start + length && start < cursor.selectionEnd();
 }
 
 void TextEditor::drawMark(const TextSearch::Match &match, const QTextLine &line, QPointF origin,

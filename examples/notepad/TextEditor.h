@@ -8,10 +8,15 @@
 #include <QPlainTextEdit>
 
 class LineNumberArea;
+class QTextBlock;
+class QTextLine;
 
-/// The plain-text field of the program. Beyond its base class it numbers lines, marks the current
-/// line and all places of a search, and gives and takes text to the letter (the base class turns
-/// no-break spaces into spaces).
+/// The text field of the program. Beyond its base class it numbers lines, marks the current line and
+/// all places of a search, and gives and takes text to the letter (the base class turns no-break
+/// spaces into spaces).
+///
+/// Text can have styles. The field lays out lines as a plain-text field does, so that large files
+/// stay quick; it shows fonts and colours, but no indents and no alignment.
 class TextEditor : public QPlainTextEdit
 {
     Q_OBJECT
@@ -25,6 +30,9 @@ public:
     /// Replaces everything, the undo history too.
     void setText(const QString &text);
 
+    /// The same with the styles of \a html, a page that StyledText can read.
+    void setStyledText(const QString &html);
+
     QString selectedText() const;
 
     /// Selects \a length characters from \a start on and scrolls there.
@@ -33,7 +41,8 @@ public:
     /// Selects all of each line that the selection touches.
     void selectWholeLines();
 
-    /// Puts \a text in place of the selection as one step to undo, and selects it.
+    /// Puts \a text in place of the selection as one step to undo, and selects it. Styles stay
+    /// where the lines are as long as before; else all of it has those of the first letter.
     void replaceSelection(const QString &text);
 
     /// Puts \a text in place of everything as one step to undo; the cursor stays as near as it can.
@@ -70,6 +79,12 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
 
 private:
+    void replacePieces(int start, const QString &text);
+    bool isAtEndOfHeading() const;
+    void makeNewLinePlain();
+    bool isSelected(qsizetype start, qsizetype length) const;
+    QList<QTextBlock> visibleBlocks() const;
+    void drawGrounds() const;
     void drawCurrentLine(QPainter &painter) const;
     void drawMarks(QPainter &painter) const;
     void drawMarksOf(const QTextBlock &block, QPainter &painter) const;

@@ -316,12 +316,14 @@ void tst_NotepadRibbon::everyCommandHasKeysOfItsOwn()
         }
         QVERIFY(action->toolTip().contains(action->shortcut().toString(QKeySequence::NativeText)));
     }
-    // Every button of the ribbon shows one of these, or a menu of them.
+    // Every button of the ribbon shows one of these, or a menu of them. Styles are too many for keys.
     const QList<QToolButton *> buttons = bar()->findChildren<QToolButton *>();
     for (const QToolButton *button : buttons) {
         const QAction *action = button->defaultAction();
         // A line edit has a button of its own.
         if (!action || qobject_cast<QLineEdit *>(button->parentWidget()))
+            continue;
+        if (action->objectName().startsWith(u"style-"_s))
             continue;
         const QList<QAction *> shown = action->menu() ? action->menu()->actions()
                                                       : QList<QAction *>();
@@ -343,14 +345,17 @@ void tst_NotepadRibbon::everyWidgetToUseHasAName()
         const bool isUsed =
             isOneOf<QAbstractButton, QLineEdit, QAbstractSpinBox, QComboBox, QPlainTextEdit>(
                 widget);
-        if (isPart || !isUsed)
+        // A star has its name from when it is first seen.
+        const bool isHiddenStar = widget->objectName() == u"collectedButton"_s
+                                  && widget->isHidden();
+        if (isPart || !isUsed || isHiddenStar)
             continue;
         ++count;
         const QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(widget);
         QVERIFY(interface);
         QVERIFY2(!interface->text(QAccessible::Name).isEmpty(), widget->metaObject()->className());
     }
-    QCOMPARE_GT(count, 45);
+    QCOMPARE_GT(count, 120);
 }
 
 void tst_NotepadRibbon::thereIsSomethingToInsert()
