@@ -365,13 +365,14 @@ void tst_RibbonGalleryLifetime::popupClosesWithItsGallery()
     QWidget other;
     QVERIFY(window.showTiles());
     QVERIFY(window.openPopup());
-    searchOf(window.gallery())->setText(u"b"_s);
-    leave(window.gallery(), &other);
-    QVERIFY(!window.menu()->isVisible());
+    RibbonGallery *gallery = window.gallery();
+    searchOf(gallery)->setText(u"b"_s);
+    leave(gallery, &other);
+    QVERIFY(!menuOf(gallery)->isVisible());
     QVERIFY(!QApplication::activePopupWidget());
-    QCOMPARE(searchOf(window.gallery())->text(), QString());
+    QCOMPARE(searchOf(gallery)->text(), QString());
     QCoreApplication::processEvents();
-    window.deleteGallery();
+    delete gallery;
 }
 
 void tst_RibbonGalleryLifetime::galleryMayGoInThePressedState_data()
