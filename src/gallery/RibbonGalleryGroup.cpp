@@ -30,7 +30,8 @@ constexpr QMargins ItemsMargins(3, 5, 3, 5);
 /// As a person reads it: of two ampersands, one is shown.
 QString shownText(const RibbonGalleryItem *tile)
 {
-    return tile->text().replace("&&"_L1, "&"_L1);
+    const QString text = tile->text();
+    return text.contains(u'&') ? QString(text).replace("&&"_L1, "&"_L1) : text;
 }
 
 /// Only where it changes something: each time costs a layout.
