@@ -92,8 +92,15 @@ void StyleIcon::drawSample(QPainter *painter) const
     layout.endLayout();
 
     const QRectF room = isAmongLines() ? Sample_OfParagraph : Ground_Rect;
+    const QRectF text = line.naturalTextRect();
+    // Some fonts are wide.
+    const qreal scale = std::min(1.0, room.width() / text.width());
+    painter->save();
     painter->setPen(Qt::black);
-    layout.draw(painter, room.center() - line.naturalTextRect().center());
+    painter->translate(room.center());
+    painter->scale(scale, scale);
+    layout.draw(painter, -text.center());
+    painter->restore();
 }
 
 /// With what of the style is not taken from the format of a piece of text.

@@ -196,13 +196,15 @@ void TextEditor::paintLineNumbers(QWidget *area, const QRect &exposed) const
     while (block.isValid() && top <= exposed.bottom()) {
         const bool isCurrent = block.blockNumber() == current;
         painter.setPen(isCurrent ? CurrentLineNumberColor : LineNumberColor);
-        // Beside the first line of the block, however large its letters are.
+        // This also lays the block out. Its number stands beside its first line, however large the
+        // letters are.
+        const qreal height = blockBoundingRect(block).height();
         const QRect number(0, qRound(top), area->width() - LineNumber_Margin,
                            qRound(block.layout()->lineAt(0).height()));
         painter.drawText(QStyle::visualRect(layoutDirection(), area->rect(), number),
                          Qt::AlignRight | Qt::AlignVCenter,
                          QString::number(block.blockNumber() + 1));
-        top += blockBoundingRect(block).height();
+        top += height;
         block = block.next();
     }
 }

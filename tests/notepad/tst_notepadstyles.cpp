@@ -314,7 +314,7 @@ void tst_NotepadStyles::aStarMakesAFavoriteThatComesIntoTheStrip()
     QVERIFY(popup()->isVisible());
     QVERIFY(!dialog()->isWindowModified());
     popup()->close();
-    QTRY_COMPARE(stripTitles().at(4), u"Terminal"_s);
+    QTRY_COMPARE(stripTitles().value(4), u"Terminal"_s);
     QCOMPARE(stripTitles().size(), 8);
     Input::click(stripTile(u"Terminal"_s));
     QCOMPARE(styles().at(0), u"terminal: <terminal>one two"_s);
@@ -326,13 +326,13 @@ void tst_NotepadStyles::favoritesSurviveAsLongAsTheWindow()
     QTest::keyClicks(searchField(), u"Pull"_s);
     star(popupTiles(u"Pull Quote"_s).constFirst());
     popup()->close();
-    QTRY_COMPARE(stripTitles().at(4), u"Pull Quote"_s);
+    QTRY_COMPARE(stripTitles().value(4), u"Pull Quote"_s);
     openFile(u"a.txt"_s, "another text\n");
     Input::click(tab(u"Home"_s));
     dialog()->hide();
     QVERIFY(Input::show(dialog()));
     Input::click(tab(u"Styles"_s));
-    QCOMPARE(stripTitles().at(4), u"Pull Quote"_s);
+    QCOMPARE(stripTitles().value(4), u"Pull Quote"_s);
     openPopup();
     QCOMPARE(popupTiles(u"Pull Quote"_s).size(), 2);
     popup()->close();

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: VornFrame contributors
 // SPDX-License-Identifier: MIT
 
+#include "LineNumberArea.h"
 #include "TextEditor.h"
 
 #include "support/Input.h"
@@ -31,6 +32,8 @@ private Q_SLOTS:
     void replacingEverythingIsOneStepToUndo();
     void lineNumbersTakeTheirRoomAndGiveItBack();
     void lineNumbersWidenWithTheirDigits();
+    void lineNumbersArePaintedBeforeTheText();
+    void lineNumbersStandBesideLargeLetters();
     void theWheelZoomsWithCtrlOnly();
     void marksCoverTheFoundPlaces();
     void theCurrentLineIsColoured();
@@ -214,6 +217,49 @@ void tst_TextEditor::lineNumbersWidenWithTheirDigits()
     QCOMPARE_GT(wide, narrow);
     editor.zoomIn(10);
     QCOMPARE_GT(editor.lineNumberWidth(), wide);
+}
+
+void tst_TextEditor::lineNumbersArePaintedBeforeTheText()
+{
+    TextEditor editor;
+    editor.resize(300, 200);
+    auto *area = editor.findChild<LineNumberArea *>();
+    editor.setText(u"one\ntwo\nthree"_s);
+    const QImage first = area->grab().toImage();
+    editor.grab();
+    QCOMPARE(area->grab().toImage(), first);
+}
+
+void tst_TextEditor::lineNumbersStandBesideLargeLetters()
+{
+    TextEditor editor;
+    editor.resize(300, 200);
+    editor.setText(u"one\ntwo"_s);
+    editor.selectAll();
+    QTextCharFormat large;
+    large.setProperty(QTextFormat::FontSizeAdjustment, 4);
+    editor.mergeCurrentCharFormat(large);
+    editor.select(0, 0);
+    editor.setCurrentLineMarked(false);
+    const QImage text = editor.viewport()->grab().toImage();
+    const QImage numbers = editor.findChild<LineNumberArea *>()->grab().toImage();
+    const auto middle = [](const QImage &image, QRgb ground, int last) {
+        int top = image.height();
+        int bottom = 0;
+        for (int y = 0; y < last; ++y) {
+            for (int x = 0; x < image.width() - 5; ++x) {
+                if (image.pixel(x, y) != ground) {
+                    top = std::min(top, y);
+                    bottom = std::max(bottom, y);
+                }
+            }
+        }
+        return (top + bottom) / 2;
+    };
+    const int line = editor.cursorRect().bottom();
+    const int ofText = middle(text, text.pixel(text.width() - 1, 10), line);
+    const int ofNumber = middle(numbers, numbers.pixel(0, 0), line);
+    QVERIFY2(std::abs(ofText - ofNumber) <= 4, qPrintable(u"%1 %2"_s.arg(ofText).arg(ofNumber)));
 }
 
 void tst_TextEditor::theWheelZoomsWithCtrlOnly()
