@@ -191,6 +191,23 @@ private:
     QList<QToolButton *> m_buttons;
 };
 
+/// An open popup and plain buttons that are shown.
+struct OpenedGallery
+{
+    OpenedGallery(int tiles, int groups) : actions(tiles)
+    {
+        gallery.fill(actions, groups);
+        plain.fill(actions);
+        plain.place();
+        plain.show();
+        gallery.open();
+    }
+
+    Actions actions;
+    Gallery gallery;
+    PlainButtons plain;
+};
+
 /// Arguments: tiles, groups.
 void add(benchmark::State &state)
 {
@@ -270,14 +287,8 @@ BENCHMARK(openAgain)
 /// The baseline hides and shows as many buttons. Neither is painted.
 void search(benchmark::State &state, const QString &before, const QString &after)
 {
-    const Actions actions(int(state.range(0)));
-    Gallery gallery;
-    gallery.fill(actions, int(state.range(1)));
-    PlainButtons plain;
-    plain.fill(actions);
-    plain.place();
-    plain.show();
-    gallery.open();
+    OpenedGallery scene(int(state.range(0)), int(state.range(1)));
+    Gallery &gallery = scene.gallery;
     sideBySide(
         state,
         [&] {
@@ -287,8 +298,8 @@ void search(benchmark::State &state, const QString &before, const QString &after
         },
         [&] { gallery.search(after); },
         [&] {
-            plain.setButtonsVisible(false);
-            plain.setButtonsVisible(true);
+            scene.plain.setButtonsVisible(false);
+            scene.plain.setButtonsVisible(true);
         });
 }
 
@@ -317,18 +328,12 @@ BENCHMARK(searchFromAllToFew)
 /// The baseline adds one button to the others and shows it.
 void collect(benchmark::State &state)
 {
-    const Actions actions(int(state.range(0)));
-    Gallery gallery;
-    gallery.fill(actions, 10);
-    PlainButtons plain;
-    plain.fill(actions);
-    plain.place();
-    plain.show();
-    gallery.open();
+    OpenedGallery scene(int(state.range(0)), 10);
+    Gallery &gallery = scene.gallery;
     sideBySide(
         state, [&] { gallery.setFirstCollected(false); }, [&] { gallery.setFirstCollected(true); },
         [&] {
-            plain.add(actions.at(0))->show();
+            scene.plain.add(scene.actions.at(0))->show();
             QCoreApplication::processEvents();
         });
 }
@@ -337,15 +342,9 @@ BENCHMARK(collect)->Apply(timed)->Iterations(9)->Arg(500)->Arg(10'000);
 /// The baseline hides one button.
 void uncollect(benchmark::State &state)
 {
-    const Actions actions(int(state.range(0)));
-    Gallery gallery;
-    gallery.fill(actions, 10);
-    PlainButtons plain;
-    plain.fill(actions);
-    plain.place();
-    plain.show();
-    gallery.open();
-    QToolButton *last = plain.add(actions.at(0));
+    OpenedGallery scene(int(state.range(0)), 10);
+    Gallery &gallery = scene.gallery;
+    QToolButton *last = scene.plain.add(scene.actions.at(0));
     const auto prepare = [&] {
         gallery.setFirstCollected(false);
         gallery.setFirstCollected(true);
