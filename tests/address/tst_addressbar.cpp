@@ -346,7 +346,7 @@ void tst_AddressBar::theContextMenuOfTheEditedPathLeavesIt()
     Scene scene(u"/tmp"_s);
     QVERIFY(Input::show(&scene.window));
     scene.strip()->editText(u"typed"_s);
-    QVERIFY(scene.strip()->hasFocus());
+    QTRY_VERIFY(scene.strip()->hasFocus());
     scene.choose(u"Copy"_s);
     QCOMPARE(clipboard()->text(), u"/tmp"_s);
     QVERIFY(!scene.isEditing());
@@ -354,7 +354,7 @@ void tst_AddressBar::theContextMenuOfTheEditedPathLeavesIt()
     scene.strip()->editText(u"typed"_s);
     scene.choose(u"Select All"_s);
     QCOMPARE(scene.strip()->selectedText(), u"/tmp"_s);
-    QVERIFY(scene.strip()->hasFocus());
+    QTRY_VERIFY(scene.strip()->hasFocus());
 }
 
 void tst_AddressBar::pastedLinesAreTrimmed()
