@@ -154,8 +154,19 @@ QString page(QTextBlock block, int start, int end)
     return html + Tail.toString();
 }
 
+/// Whether any text of \a document has had a style so far: what is quick to say of large plain files.
+bool hasHadStyles(const QTextDocument &document)
+{
+    const QList<QTextFormat> formats = document.allFormats();
+    return std::any_of(formats.cbegin(), formats.cend(), [](const QTextFormat &format) {
+        return !StyleCatalog::namesOf(format).isEmpty();
+    });
+}
+
 bool hasStyles(QTextBlock block, int start, int end)
 {
+    if (!hasHadStyles(*block.document()))
+        return false;
     const auto isStyled = [](const Piece &piece) {
         return !StyleCatalog::namesOf(piece.format).isEmpty();
     };
