@@ -354,7 +354,8 @@ void tst_AddressBar::theContextMenuOfTheEditedPathLeavesIt()
     scene.strip()->editText(u"typed"_s);
     scene.choose(u"Select All"_s);
     QCOMPARE(scene.strip()->selectedText(), u"/tmp"_s);
-    QTRY_VERIFY(scene.strip()->hasFocus());
+    // On the offscreen platform the window may stay inactive after its menu.
+    QCOMPARE(scene.window.focusWidget(), scene.strip());
 }
 
 void tst_AddressBar::pastedLinesAreTrimmed()
