@@ -4,6 +4,7 @@
 #include "gallery/TileWindow.h"
 
 #include "support/ImageChecks.h"
+#include "support/StrangePalette.h"
 #include "support/TestCase.h"
 
 #include <QPainter>
@@ -151,15 +152,6 @@ QList<QRect> cornersOf(const QRect &rect, QSize size)
             {rect.topLeft() + right, size},
             {rect.topLeft() + bottom, size},
             {rect.topLeft() + right + bottom, size}};
-}
-
-QPalette strangePalette()
-{
-    QPalette palette(QColor(200, 230, 200), QColor(200, 200, 230));
-    for (const QPalette::ColorRole role :
-         {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
-        palette.setColor(role, QColor(120, 0, 60));
-    return palette;
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include "gallery/PopupParts.h"
 
 #include "support/ImageChecks.h"
+#include "support/StrangePalette.h"
 #include "support/TestCase.h"
 
 #include <QApplication>
@@ -72,17 +73,6 @@ void addStates(std::initializer_list<const char *> states)
 QString blocks()
 {
     return QString(4, QChar(0x2588));
-}
-
-/// Colours that the sheet does not name: what is white, black or grey cannot come from here.
-QPalette strangePalette()
-{
-    QPalette palette(QColor(200, 230, 200), QColor(200, 200, 230));
-    palette.setColor(QPalette::Base, QColor(230, 230, 200));
-    for (const QPalette::ColorRole role :
-         {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
-        palette.setColor(role, QColor(120, 0, 60));
-    return palette;
 }
 
 QList<QRect> cornersOf(const QRect &rect, QSize size)

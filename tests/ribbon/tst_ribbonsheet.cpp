@@ -6,6 +6,7 @@
 #include "ribbon/RibbonTabBar.h"
 #include "ribbon/RibbonWindow.h"
 
+#include "support/StrangePalette.h"
 #include "support/TestCase.h"
 
 #include <QApplication>
