@@ -54,7 +54,7 @@ FilePane::FilePane(const QString &name, QWidget *parent)
 
 void FilePane::createActions()
 {
-    auto *newText = new QAction(QIcon(u":/files/text.svg"_s), tr("Text File"), this);
+    auto *newText = new QAction(QIcon(u":/support/text.svg"_s), tr("Text File"), this);
     newText->setObjectName(u"newTextFile"_s);
     connect(newText, &QAction::triggered, this, &FilePane::createTextFile);
     m_bar->addNewAction(newText);
@@ -116,7 +116,7 @@ void FilePane::createTextFile()
 {
     const NewTextFile::Result result = NewTextFile::create(m_bar->actionTriggeredPath());
     if (result.path.isEmpty()) {
-        Messages::warn(window(), tr("The file could not be created: %1.").arg(result.reason));
+        Messages::tell(window(), tr("The file could not be created: %1.").arg(result.reason));
         return;
     }
     if (const auto *model = qobject_cast<QFileSystemModel *>(m_tree->model()))

@@ -42,6 +42,7 @@ FilesWindow::FilesWindow(const QString &settingsFile, QWidget *parent)
 {
     // Resources in a static library need this call.
     Q_INIT_RESOURCE(files);
+    Q_INIT_RESOURCE(support);
     setObjectName(u"filesWindow"_s);
     setWindowIcon(QIcon(u":/files/files.svg"_s));
     createLayout();

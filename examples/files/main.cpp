@@ -51,7 +51,7 @@ int main(int argc, char *argv[])
     const QStringList missing = window.openFolders(line.arguments());
     window.show();
     if (!missing.isEmpty())
-        Messages::warn(
+        Messages::tell(
             &window,
             tr("%1\nThe home folder is shown instead.").arg(FilesWindow::missingText(missing)));
     return QCoreApplication::exec();

@@ -77,6 +77,12 @@ DocumentPage *Documents::currentPage() const
     return qobject_cast<DocumentPage *>(m_content->currentWidget(section));
 }
 
+void Documents::goToLine(int line) const
+{
+    if (DocumentPage *page = currentPage())
+        page->goToLine(line);
+}
+
 void Documents::closeCurrent()
 {
     if (!currentPage())

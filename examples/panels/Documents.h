@@ -27,6 +27,9 @@ public:
     /// The page that can be seen; null if none can.
     DocumentPage *currentPage() const;
 
+    /// Shows \a line, base 0, of the page that can be seen.
+    void goToLine(int line) const;
+
     void closeCurrent();
 
     /// Goes on by \a step tabs of the section, round and round.

@@ -39,6 +39,7 @@ PanelsWindow::PanelsWindow(const QString &settingsFile, QWidget *parent)
 {
     // Resources in a static library need this call.
     Q_INIT_RESOURCE(panels);
+    Q_INIT_RESOURCE(support);
     setObjectName(u"panelsWindow"_s);
     setWindowIcon(QIcon(u":/panels/panels.svg"_s));
     m_container = new DockContainer;
@@ -62,6 +63,7 @@ void PanelsWindow::createViews()
     m_colors = new ColorList;
     m_outline = new OutlineView;
     m_messages = new MessageLog;
+    m_messages->followMessageHandler();
     m_scratch = new ScratchPad;
     m_layout = new DockLayout(m_container, this);
     SideController *left = m_layout->side(DockContainer::Left);
@@ -79,6 +81,7 @@ void PanelsWindow::connectViews()
 {
     connect(m_objects, &ObjectTree::objectChosen, m_properties, &PropertyTable::setObject);
     connect(m_documents, &Documents::currentChanged, this, &PanelsWindow::showCurrent);
+    connect(m_outline, &OutlineView::lineChosen, m_documents, &Documents::goToLine);
 }
 
 void PanelsWindow::openFiles(const QStringList &paths)
@@ -150,7 +153,8 @@ void PanelsWindow::showFirst()
 void PanelsWindow::showCurrent()
 {
     DocumentPage *page = m_documents->currentPage();
-    m_outline->setPage(page);
+    m_outline->setEntries(page ? page->outline() : QList<OutlineEntry>(),
+                          page ? tr("No headings") : tr("No document"));
     if (!page) {
         setWindowTitle(tr("Panels"));
         return;
@@ -166,5 +170,5 @@ void PanelsWindow::showPlaceholder()
     const QString hint = tr("Open text files and pictures with File > Open (Ctrl+O), or name them "
                             "on the command line.");
     m_container->contentWidget()->setPlaceholderPixmap(
-        Placeholder::draw(hint, font(), devicePixelRatioF()));
+        Placeholder::draw(hint, windowIcon(), font(), devicePixelRatioF()));
 }

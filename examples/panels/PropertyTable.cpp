@@ -27,7 +27,7 @@ PropertyTable::PropertyTable(QWidget *parent) : ToolView(parent), m_table(new QT
 {
     setObjectName(u"properties"_s);
     setWindowTitle(tr("Properties"));
-    setWindowIcon(QIcon(u":/panels/properties.svg"_s));
+    setWindowIcon(QIcon(u":/support/properties.svg"_s));
     m_table->setObjectName(u"propertyTable"_s);
     m_table->setAccessibleName(windowTitle());
     m_table->setFrameShape(QFrame::NoFrame);

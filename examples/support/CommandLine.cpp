@@ -29,6 +29,11 @@ void CommandLine::addOption(const QString &name, const QString &description,
     m_parser.addOption(QCommandLineOption(name, description, valueName));
 }
 
+void CommandLine::addSwitch(const QString &name, const QString &description)
+{
+    m_parser.addOption(QCommandLineOption(name, description));
+}
+
 void CommandLine::addSettings(const QString &description)
 {
     addOption(u"settings"_s, description, u"FILE.ini"_s);

@@ -24,6 +24,9 @@ public:
     /// An option of this program alone. \a valueName stands for what has to follow it.
     void addOption(const QString &name, const QString &description, const QString &valueName);
 
+    /// An option without a value.
+    void addSwitch(const QString &name, const QString &description);
+
     /// An option for the file that keeps from one start to the next what \a description says.
     void addSettings(const QString &description);
 
@@ -32,6 +35,7 @@ public:
     void process(const QCoreApplication &application);
 
     QStringList arguments() const { return m_parser.positionalArguments(); }
+    bool isSet(const QString &name) const { return m_parser.isSet(name); }
     QString value(const QString &name) const { return m_parser.value(name); }
 
     /// The path of the file that keeps the settings; \a fallback unless another one is chosen.

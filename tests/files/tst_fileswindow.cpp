@@ -417,14 +417,14 @@ void tst_FilesWindow::messagesAreShownAsTheyAre()
 {
     ModalScript script;
     script.answer(QMessageBox::Ok);
-    Messages::warn(window(), u"<b>&amp;"_s);
+    Messages::tell(window(), u"<b>&amp;"_s);
     const auto *box = window()->findChild<QMessageBox *>();
     QVERIFY(box->isVisible());
     QCOMPARE(box->textFormat(), Qt::PlainText);
     QTRY_VERIFY(script.isDone());
     QCOMPARE(script.texts(), QStringList{u"<b>&amp;"_s});
     // Or with the window.
-    Messages::warn(window(), u"text"_s);
+    Messages::tell(window(), u"text"_s);
     restart(QString());
 }
 

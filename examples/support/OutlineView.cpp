@@ -28,25 +28,21 @@ OutlineView::OutlineView(QWidget *parent) : QTreeWidget(parent)
 {
     setObjectName(u"outline"_s);
     setWindowTitle(tr("Outline"));
-    setWindowIcon(QIcon(u":/panels/outline.svg"_s));
+    setWindowIcon(QIcon(u":/support/outline.svg"_s));
     setAccessibleName(windowTitle());
     setFrameShape(QFrame::NoFrame);
     setHeaderHidden(true);
     setUniformRowHeights(true);
-    connect(this, &QTreeWidget::itemClicked, this, &OutlineView::goTo);
-    connect(this, &QTreeWidget::itemActivated, this, &OutlineView::goTo);
-    setPage(nullptr);
+    connect(this, &QTreeWidget::itemClicked, this, &OutlineView::choose);
+    connect(this, &QTreeWidget::itemActivated, this, &OutlineView::choose);
+    setEntries({}, tr("No document"));
 }
 
-void OutlineView::setPage(DocumentPage *page)
+void OutlineView::setEntries(const QList<OutlineEntry> &entries, const QString &hint)
 {
-    if (page && page == m_page)
-        return;
-    m_page = page;
     clear();
-    const QList<OutlineEntry> entries = page ? page->outline() : QList<OutlineEntry>();
     if (entries.isEmpty()) {
-        auto *item = new QTreeWidgetItem({page ? tr("No headings") : tr("No document")});
+        auto *item = new QTreeWidgetItem({hint});
         item->setSizeHint(0, {0, ToolView::Row_Height});
         item->setFlags(Qt::NoItemFlags);
         addTopLevelItem(item);
@@ -71,8 +67,9 @@ void OutlineView::addEntries(const QList<OutlineEntry> &entries)
     }
 }
 
-void OutlineView::goTo(const QTreeWidgetItem *item)
+void OutlineView::choose(const QTreeWidgetItem *item)
 {
-    if (m_page != nullptr && item != nullptr && item->data(0, LineRole).toInt() >= 0)
-        m_page->goToLine(item->data(0, LineRole).toInt());
+    const int line = item ? item->data(0, LineRole).toInt() : -1;
+    if (item && item->flags().testFlag(Qt::ItemIsEnabled) && line >= 0)
+        Q_EMIT lineChosen(line);
 }

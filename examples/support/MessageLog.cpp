@@ -22,7 +22,7 @@ MessageLog::MessageLog(QWidget *parent) : ToolView(parent), m_text(new QPlainTex
 {
     setObjectName(u"messages"_s);
     setWindowTitle(tr("Messages"));
-    setWindowIcon(QIcon(u":/panels/messages.svg"_s));
+    setWindowIcon(QIcon(u":/support/messages.svg"_s));
     m_text->setObjectName(u"messageText"_s);
     m_text->setAccessibleName(windowTitle());
     m_text->setFrameShape(QFrame::NoFrame);
@@ -33,8 +33,12 @@ MessageLog::MessageLog(QWidget *parent) : ToolView(parent), m_text(new QPlainTex
     setContent(m_text);
     const QAction *clearing = addCommand(tr("C&lear"), u"clearMessages"_s);
     connect(clearing, &QAction::triggered, this, &MessageLog::clear);
-    connect(new MessageRelay(this), &MessageRelay::received, this, &MessageLog::append);
     showCount();
+}
+
+void MessageLog::followMessageHandler()
+{
+    connect(new MessageRelay(this), &MessageRelay::received, this, &MessageLog::append);
 }
 
 void MessageLog::append(QtMsgType type, const QString &text)

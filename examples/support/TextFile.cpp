@@ -3,41 +3,15 @@
 
 #include "TextFile.h"
 
-#include <QCryptographicHash>
-#include <QFile>
+#include "FileBytes.h"
+
 #include <QFileInfo>
-#include <QLocale>
-#include <QSaveFile>
-#include <QStringDecoder>
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr QByteArrayView ByteOrderMark("\xEF\xBB\xBF");
-
-/// More links in a row than any sane system has; a ring of links ends here.
-constexpr int MaximumLinks = 40;
-
-/// The file behind \a path. Unlike QFileInfo's canonical path, this also follows a link to nowhere.
-QString followLinks(const QString &path)
-{
-    QString target = path;
-    for (int i = 0; i < MaximumLinks; ++i) {
-        const QFileInfo info(target);
-        if (!info.isSymLink())
-            break;
-        target = info.symLinkTarget();
-    }
-    return target;
-}
-
-QByteArray digest(const QByteArray &bytes)
-{
-    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
-}
 
 /// What a text document, too, takes as the end of a line.
 bool endsLine(QChar character)
@@ -101,47 +75,16 @@ bool hasOnly(const QString &text, const QString &lineBreak)
 
 } // namespace
 
-TextFile::Status TextFile::read(const QString &path, QByteArray *bytes)
-{
-    const QFileInfo info(path);
-    if (!info.exists())
-        return {Error::NotFound, tr("There is no such file.")};
-    if (info.isDir())
-        return {Error::NotRegular, tr("It is a folder.")};
-    if (!info.isFile())
-        return {Error::NotRegular, tr("It is not a regular file.")};
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {Error::ReadFailed, file.errorString()};
-    // One byte more than allowed tells, whatever size the system reports.
-    *bytes = file.read(MaximumSize + 1);
-    if (file.error() != QFileDevice::NoError)
-        return {Error::ReadFailed, file.errorString()};
-    if (bytes->size() > MaximumSize)
-        return {Error::TooLarge,
-                tr("It is larger than %1.").arg(QLocale().formattedDataSize(MaximumSize, 0))};
-    return {};
-}
-
-TextFile::Status TextFile::load(const QString &path)
+TextFile::Status TextFile::load(const QString &path, Encodings encodings)
 {
     QByteArray bytes;
-    if (Status status = read(path, &bytes); !status.ok())
+    if (Status status = FileBytes::read(path, MaximumSize, &bytes); !status.ok())
         return status;
-    if (bytes.contains('\0'))
-        return {Error::Binary, tr("It holds binary data, not text.")};
-    const bool hasMark = bytes.startsWith(ByteOrderMark);
-    const QByteArray content = hasMark ? bytes.mid(ByteOrderMark.size()) : bytes;
-    // A second mark would be text.
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
-    const QString decoded = decoder.decode(content);
-    // What is not UTF-8 is replaced when decoded, so it does not come back.
-    if (decoder.hasError() || decoded.toUtf8() != content)
-        return {Error::NotUtf8, tr("It is binary data or text of another encoding than UTF-8.")};
-
+    QString decoded;
+    if (Status status = m_codec.decode(bytes, encodings, &decoded); !status.ok())
+        return status;
     m_path = QFileInfo(path).absoluteFilePath();
-    m_digest = digest(bytes);
-    m_byteOrderMark = hasMark;
+    m_digest = FileBytes::digest(bytes);
     splitLines(decoded);
     return {};
 }
@@ -153,55 +96,33 @@ void TextFile::splitLines(const QString &decoded)
     m_text = normalized(decoded);
 }
 
-TextFile::Status TextFile::write(const QString &path, const QByteArray &bytes)
-{
-    const QString target = followLinks(path);
-    const QFileInfo info(target);
-    if (info.isDir())
-        return {Error::NotRegular, tr("It is a folder.")};
-    if (info.isSymLink())
-        return {Error::NotRegular, tr("It is a link that leads to itself.")};
-    if (info.exists() && !info.isFile())
-        return {Error::NotRegular, tr("It is not a regular file.")};
-    QSaveFile file(target);
-    if (!file.open(QIODevice::WriteOnly))
-        return {Error::WriteFailed, file.errorString()};
-    // QSaveFile::commit() of Qt 6.4 may report success although the last bytes found no room on the
-    // disk.
-    const bool isWritten = file.write(bytes) == bytes.size() && file.flush()
-                           && file.size() == bytes.size();
-    if (!isWritten || !file.commit())
-        return {Error::WriteFailed, file.errorString()};
-    if (QFileInfo(target).size() != bytes.size())
-        return {Error::WriteFailed, tr("Not all of the text could be written.")};
-    return {};
-}
-
 TextFile::Status TextFile::save(const QString &path, const QString &text)
 {
-    const QByteArray bytes = encoded(text);
-    if (Status status = write(path, bytes); !status.ok())
+    const QString all = joined(text);
+    if (Status status = m_codec.check(text); !status.ok())
+        return status;
+    const QByteArray bytes = m_codec.encode(all);
+    if (Status status = FileBytes::write(path, bytes); !status.ok())
         return status;
     m_breaks = breaksFor(text);
     if (m_breaks.count(m_commonBreak) == m_breaks.size())
         m_breaks.clear();
     m_path = QFileInfo(path).absoluteFilePath();
     m_text = text;
-    m_digest = digest(bytes);
+    m_digest = FileBytes::digest(bytes);
     return {};
 }
 
 TextFile::Status TextFile::saveCopy(const QString &path, const QString &text) const
 {
-    return write(path, encoded(text));
+    if (Status status = m_codec.check(text); !status.ok())
+        return status;
+    return FileBytes::write(path, m_codec.encode(joined(text)));
 }
 
 bool TextFile::isChangedOnDisk() const
 {
-    QFile file(m_path);
-    if (m_path.isEmpty() || !file.exists())
-        return false;
-    return !file.open(QIODevice::ReadOnly) || digest(file.read(MaximumSize + 1)) != m_digest;
+    return FileBytes::isChanged(m_path, m_digest);
 }
 
 TextFile::LineEnd TextFile::lineEnd() const
@@ -254,18 +175,14 @@ QStringList TextFile::breaksFor(const QString &text) const
     return breaks;
 }
 
-QByteArray TextFile::encoded(const QString &text) const
+QString TextFile::joined(const QString &text) const
 {
-    QString joined = text;
     const QStringList breaks = breaksFor(text);
-    if (!breaks.isEmpty()) {
-        const QStringList lines = text.split(u'\n');
-        joined = lines.first();
-        for (qsizetype i = 1; i < lines.size(); ++i)
-            joined += breaks.at(i - 1) + lines.at(i);
-    } else {
-        joined.replace(u'\n', m_commonBreak);
-    }
-    const QByteArray bytes = joined.toUtf8();
-    return m_byteOrderMark ? ByteOrderMark.toByteArray() + bytes : bytes;
+    if (breaks.isEmpty())
+        return m_commonBreak == u'\n' ? text : QString(text).replace(u'\n', m_commonBreak);
+    const QStringList lines = text.split(u'\n');
+    QString joined = lines.first();
+    for (qsizetype i = 1; i < lines.size(); ++i)
+        joined += breaks.at(i - 1) + lines.at(i);
+    return joined;
 }

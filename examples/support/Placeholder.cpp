@@ -23,7 +23,7 @@ constexpr QColor Hint_Color(97, 97, 97);
 
 } // namespace
 
-QPixmap draw(const QString &hint, const QFont &font, qreal ratio)
+QPixmap draw(const QString &hint, const QIcon &icon, const QFont &font, qreal ratio)
 {
     const QRect hintRect = QFontMetrics(font).boundingRect(
         QRect(0, Icon_Size + Icon_Gap, Hint_Width, Hint_MaximumHeight), Hint_Flags, hint);
@@ -32,7 +32,6 @@ QPixmap draw(const QString &hint, const QFont &font, qreal ratio)
     pixmap.setDevicePixelRatio(ratio);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
-    const QIcon icon(u":/panels/panels.svg"_s);
     const QSize iconSize(Icon_Size, Icon_Size);
     painter.drawPixmap((Hint_Width - Icon_Size) / 2, 0, icon.pixmap(iconSize, ratio));
     painter.setFont(font);

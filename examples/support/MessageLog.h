@@ -9,7 +9,7 @@
 
 class QPlainTextEdit;
 
-/// The messages of Qt and of the program since the start, the last ones when there are many.
+/// The messages of the program since the start, the last ones when there are many.
 class MessageLog : public ToolView
 {
     Q_OBJECT
@@ -17,8 +17,13 @@ class MessageLog : public ToolView
 public:
     explicit MessageLog(QWidget *parent = nullptr);
 
-private:
+    /// Adds all messages from now on that go through the message handler of Qt.
+    void followMessageHandler();
+
+    /// Adds a message.
     void append(QtMsgType type, const QString &text);
+
+private:
     void clear();
     void showCount();
 

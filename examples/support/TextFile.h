@@ -3,13 +3,16 @@
 
 #pragma once
 
+#include "FileStatus.h"
+#include "TextCodec.h"
+
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
-/// A UTF-8 text file, read and written so that nothing changes that the user did not change: the
-/// byte order mark, the kind of each line end and a missing last line end all survive.
+/// A text file, read and written so that nothing changes that the user did not change: the
+/// encoding, the byte order mark, the kind of each line end and a missing last line end all survive.
 ///
 /// Text is exchanged with "\n" between its lines. Where a file mixes line ends, untouched lines
 /// keep theirs and new ones get the kind that prevails.
@@ -20,31 +23,15 @@ class TextFile
 public:
     enum class LineEnd { Lf, CrLf, Cr, Mixed };
 
-    enum class Error {
-        None,
-        NotFound,
-        NotRegular,
-        TooLarge,
-        Binary,
-        NotUtf8,
-        ReadFailed,
-        WriteFailed
-    };
-
-    /// How an operation ended; the reason is a sentence for the user, empty when all went well.
-    struct Status
-    {
-        Error error = Error::None;
-        QString reason;
-
-        bool ok() const { return error == Error::None; }
-    };
+    using Error = FileStatus::Error;
+    using Status = FileStatus;
+    using Encodings = TextCodec::Encodings;
 
     /// In bytes.
     static constexpr qint64 MaximumSize = qint64(64) * 1024 * 1024;
 
     /// Reads the file at \a path. When that fails, everything stays as it was.
-    Status load(const QString &path);
+    Status load(const QString &path, Encodings encodings = Encodings::OnlyUtf8);
 
     /// Writes \a text to the file at \a path, which becomes this object's file. A file that is
     /// there is replaced in one step and only when all bytes are on the disk; until then it stays
@@ -69,16 +56,18 @@ public:
     /// Makes all line ends alike from the next save on; LineEnd::Mixed is ignored.
     void setLineEnd(LineEnd lineEnd);
 
-    bool hasByteOrderMark() const { return m_byteOrderMark; }
-    void setByteOrderMark(bool on) { m_byteOrderMark = on; }
+    bool hasByteOrderMark() const { return m_codec.hasByteOrderMark(); }
+    void setByteOrderMark(bool on) { m_codec.setByteOrderMark(on); }
+
+    TextCodec::Encoding encoding() const { return m_codec.encoding(); }
+    void setEncoding(TextCodec::Encoding encoding) { m_codec.setEncoding(encoding); }
+    QString encodingName() const { return m_codec.encodingName(); }
 
 private:
-    static Status read(const QString &path, QByteArray *bytes);
-    static Status write(const QString &path, const QByteArray &bytes);
-
     void splitLines(const QString &decoded);
     QStringList breaksFor(const QString &text) const;
-    QByteArray encoded(const QString &text) const;
+    /// \a text with the line ends of the file.
+    QString joined(const QString &text) const;
 
     QString m_path;
     QString m_text;
@@ -86,5 +75,5 @@ private:
     /// One entry a line end, filled only where line ends are mixed.
     QStringList m_breaks;
     QString m_commonBreak = QChar(u'\n');
-    bool m_byteOrderMark = false;
+    TextCodec m_codec;
 };

@@ -5,11 +5,14 @@
 
 #include <QMessageBox>
 
-/// Message boxes of the program. All texts are shown as they are: a file name may look like markup.
+/// Message boxes of a program. All texts are shown as they are: a file name may look like markup.
 namespace Messages {
 
 /// Says \a text with \a reason below.
 void warn(QWidget *window, const QString &text, const QString &reason);
+
+/// Says \a text without holding the program up.
+void tell(QWidget *window, const QString &text);
 
 /// Says \a text in a friendly way.
 void inform(QWidget *window, const QString &text);

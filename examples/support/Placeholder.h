@@ -4,6 +4,7 @@
 #pragma once
 
 class QFont;
+class QIcon;
 class QPixmap;
 class QString;
 
@@ -12,8 +13,8 @@ class QString;
 /// The picture on a work surface without tabs.
 namespace Placeholder {
 
-/// Draws a window and \a hint below it in \a font, in the pixels of a screen of \a ratio device
+/// Draws \a icon and \a hint below it in \a font, in the pixels of a screen of \a ratio device
 /// pixels to one.
-QPixmap draw(const QString &hint, const QFont &font, qreal ratio);
+QPixmap draw(const QString &hint, const QIcon &icon, const QFont &font, qreal ratio);
 
 } // namespace Placeholder

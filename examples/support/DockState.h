@@ -8,9 +8,15 @@
 
 #include <array>
 
+class QSettings;
+
 /// A layout of the views, at first the default one.
 struct DockState
 {
+    /// What \a settings hold. What is missing in them, or makes no sense, is as at first.
+    static DockState load(QSettings &settings);
+    void save(QSettings &settings) const;
+
     static constexpr int SideCount = 3;
 
     struct Side

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: VornFrame contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "OutlineEntry.h"
+
+#include <QList>
+#include <QTreeWidget>
+
+/// What a document consists of, as a tree. A click on an entry, or Return, chooses it.
+class OutlineView : public QTreeWidget
+{
+    Q_OBJECT
+
+public:
+    explicit OutlineView(QWidget *parent = nullptr);
+
+    /// Lists \a entries, or \a hint when there are none.
+    void setEntries(const QList<OutlineEntry> &entries, const QString &hint);
+
+Q_SIGNALS:
+    /// The user chose an entry that leads to \a line, base 0.
+    void lineChosen(int line);
+
+private:
+    void addEntries(const QList<OutlineEntry> &entries);
+    void choose(const QTreeWidgetItem *item);
+};
