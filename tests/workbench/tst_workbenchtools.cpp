@@ -1,0 +1,239 @@
+// SPDX-FileCopyrightText: VornFrame contributors
+// SPDX-License-Identifier: MIT
+
+#include "WorkbenchFixture.h"
+
+#include "support/Input.h"
+#include "support/ModalScript.h"
+
+#include "DocumentLoader.h"
+#include "PictureDocument.h"
+#include "TableDocument.h"
+#include "TextDocument.h"
+#include "WorkbenchWindow.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QFile>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QTableView>
+#include <QToolTip>
+#include <QUndoStack>
+
+using namespace Qt::StringLiterals;
+
+/// What the temporary pages and the search field do with real documents.
+class tst_WorkbenchTools final : public WorkbenchFixture
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void textTools();
+    void pictureTools();
+    void tableTools();
+    void theClipboardServesTables();
+    void searchesInATextRoundAndRound();
+    void searchesInATable();
+    void searchOffersFiltersForAPicture();
+    void aFileThatOthersChangedIsOnlyReplacedWhenTheUserSaysSo();
+
+private:
+    QAction *command(const QString &name) const { return m_own->findChild<QAction *>(name); }
+    void search(const QString &text) const;
+    template <class Document>
+    Document *shown() const
+    {
+        return qobject_cast<Document *>(m_own->tabs()->current());
+    }
+
+    std::unique_ptr<WorkbenchWindow> m_own;
+};
+
+void tst_WorkbenchTools::init()
+{
+    WorkbenchFixture::init();
+    window()->close();
+    m_own = std::make_unique<WorkbenchWindow>(QString(), &DocumentLoader::load);
+    m_own->resize(780, 600);
+    QVERIFY(Input::show(m_own.get()));
+}
+
+void tst_WorkbenchTools::cleanup()
+{
+    QToolTip::hideText();
+    m_own.reset();
+    WorkbenchFixture::cleanup();
+}
+
+void tst_WorkbenchTools::search(const QString &text) const
+{
+    auto *field = m_own->findChild<QLineEdit *>(u"searchField"_s);
+    field->setFocus();
+    field->setText(text);
+    QTest::keyClick(field, Qt::Key_Return);
+}
+
+void tst_WorkbenchTools::textTools()
+{
+    QVERIFY(m_own->openPath(createFile(u"a.txt"_s, "one\ntwo\n")));
+    QPlainTextEdit *editor = shown<TextDocument>()->editor();
+    command(u"upperCase"_s)->trigger();
+    QCOMPARE(editor->toPlainText(), u"one\ntwo\n"_s);
+    command(u"selectAll"_s)->trigger();
+    command(u"upperCase"_s)->trigger();
+    QCOMPARE(editor->toPlainText(), u"ONE\nTWO\n"_s);
+    QVERIFY(editor->textCursor().hasSelection());
+    command(u"undo"_s)->trigger();
+    QCOMPARE(editor->toPlainText(), u"one\ntwo\n"_s);
+    command(u"redo"_s)->trigger();
+    command(u"lowerCase"_s)->trigger();
+    QCOMPARE(editor->toPlainText().toLower(), u"one\ntwo\n"_s);
+    const bool wraps = command(u"wordWrap"_s)->isChecked();
+    QCOMPARE(wraps, editor->lineWrapMode() == QPlainTextEdit::WidgetWidth);
+    command(u"wordWrap"_s)->trigger();
+    QCOMPARE(editor->lineWrapMode() == QPlainTextEdit::WidgetWidth, !wraps);
+    editor->document()->setModified(false);
+}
+
+void tst_WorkbenchTools::pictureTools()
+{
+    QImage image(40, 20, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QVERIFY(image.save(path(u"p.png"_s)));
+    QVERIFY(m_own->openPath(path(u"p.png"_s)));
+    auto *picture = shown<PictureDocument>();
+    command(u"rotateLeft"_s)->trigger();
+    QCOMPARE(picture->image().size(), QSize(20, 40));
+    command(u"rotateRight"_s)->trigger();
+    QCOMPARE(picture->image().size(), QSize(40, 20));
+    QAction *filter = command(u"filter_invert"_s);
+    const QImage before = filter->icon().pixmap(32).toImage();
+    filter->trigger();
+    QCOMPARE(picture->image().pixelColor(3, 3), QColor(Qt::cyan));
+    // The previews are of the picture as it is.
+    QVERIFY(filter->icon().pixmap(32).toImage() != before);
+    QVERIFY(picture->isModified());
+    command(u"undo"_s)->trigger();
+    QCOMPARE(picture->image().pixelColor(3, 3), QColor(Qt::red));
+    command(u"redo"_s)->trigger();
+    QCOMPARE(picture->image().pixelColor(3, 3), QColor(Qt::cyan));
+    command(u"actualSize"_s)->trigger();
+    QCOMPARE(picture->zoom(), 1.0);
+    command(u"zoomIn"_s)->trigger();
+    QVERIFY(picture->zoom() > 1.0);
+    command(u"zoomOut"_s)->trigger();
+    command(u"zoomOut"_s)->trigger();
+    QVERIFY(picture->zoom() < 1.0);
+}
+
+void tst_WorkbenchTools::tableTools()
+{
+    QVERIFY(m_own->openPath(createFile(u"t.csv"_s, "name,value\nb,2\na,1\n")));
+    auto *table = shown<TableDocument>();
+    const QAbstractItemModel *model = table->view()->model();
+    const bool hasHeader = table->hasHeaderRow();
+    QCOMPARE(command(u"headerRow"_s)->isChecked(), hasHeader);
+    table->setHeaderRow(true);
+    table->view()->setCurrentIndex(model->index(0, 0));
+    command(u"sortAscending"_s)->trigger();
+    QCOMPARE(model->index(0, 0).data().toString(), u"a"_s);
+    command(u"sortDescending"_s)->trigger();
+    QCOMPARE(model->index(0, 0).data().toString(), u"b"_s);
+    command(u"insertRow"_s)->trigger();
+    QCOMPARE(model->rowCount(), 3);
+    command(u"undo"_s)->trigger();
+    QCOMPARE(model->rowCount(), 2);
+    command(u"removeRows"_s)->trigger();
+    QCOMPARE(model->rowCount(), 1);
+    command(u"insertColumn"_s)->trigger();
+    QCOMPARE(model->columnCount(), 3);
+    command(u"removeColumns"_s)->trigger();
+    QCOMPARE(model->columnCount(), 2);
+}
+
+void tst_WorkbenchTools::theClipboardServesTables()
+{
+    QVERIFY(m_own->openPath(createFile(u"t.csv"_s, "name,value\nb,2\n")));
+    QTableView *view = shown<TableDocument>()->view();
+    view->setFocus();
+    view->setCurrentIndex(view->model()->index(0, 0));
+    const QString text = view->currentIndex().data().toString();
+    command(u"copy"_s)->trigger();
+    QCOMPARE(QApplication::clipboard()->text().trimmed(), text);
+    command(u"cut"_s)->trigger();
+    QCOMPARE(view->model()->index(0, 0).data().toString(), QString());
+    command(u"paste"_s)->trigger();
+    QCOMPARE(view->model()->index(0, 0).data().toString(), text);
+}
+
+void tst_WorkbenchTools::searchesInATextRoundAndRound()
+{
+    QVERIFY(m_own->openPath(createFile(u"a.txt"_s, "one two one\n")));
+    const QPlainTextEdit *editor = shown<TextDocument>()->editor();
+    for (const int start : {0, 8, 0}) {
+        search(u"one"_s);
+        QCOMPARE(editor->textCursor().selectionStart(), start);
+    }
+    search(u"nothing"_s);
+    QCOMPARE(editor->textCursor().selectionStart(), 0);
+    QVERIFY(m_own->findChild<QPlainTextEdit *>(u"messageText"_s)
+                ->toPlainText()
+                .contains(u"“nothing” was not found."_s));
+}
+
+void tst_WorkbenchTools::searchesInATable()
+{
+    QVERIFY(m_own->openPath(createFile(u"t.csv"_s, "name,value\nb,two\na,one\nc,two\n")));
+    auto *table = shown<TableDocument>();
+    table->setHeaderRow(true);
+    table->view()->setCurrentIndex(table->view()->model()->index(0, 0));
+    for (const int row : {0, 2, 0}) {
+        search(u"TWO"_s);
+        QCOMPARE(table->view()->currentIndex().row(), row);
+        QCOMPARE(table->view()->currentIndex().column(), 1);
+    }
+}
+
+void tst_WorkbenchTools::searchOffersFiltersForAPicture()
+{
+    QImage image(40, 20, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QVERIFY(image.save(path(u"p.png"_s)));
+    QVERIFY(m_own->openPath(path(u"p.png"_s)));
+    search(u"INVERT"_s);
+    auto *menu = m_own->findChild<QMenu *>(u"filterMatches"_s);
+    QVERIFY(menu);
+    QTest::keyClick(menu, Qt::Key_Return);
+    QCOMPARE(shown<PictureDocument>()->image().pixelColor(3, 3), QColor(Qt::cyan));
+    QTRY_VERIFY(!m_own->findChild<QMenu *>(u"filterMatches"_s));
+}
+
+void tst_WorkbenchTools::aFileThatOthersChangedIsOnlyReplacedWhenTheUserSaysSo()
+{
+    QVERIFY(m_own->openPath(createFile(u"a.txt"_s, "mine\n")));
+    shown<TextDocument>()->editor()->insertPlainText(u"still "_s);
+    const auto bytes = [this] {
+        QFile file(path(u"a.txt"_s));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    createFile(u"a.txt"_s, "of others\n");
+    ModalScript script;
+    script.answer(QMessageBox::Cancel);
+    QVERIFY(!m_own->tabs()->saveCurrent());
+    QVERIFY(script.isDone());
+    QCOMPARE(bytes(), QByteArray("of others\n"));
+    QVERIFY(shown<TextDocument>()->isModified());
+    script.answer(u"Save Anyway"_s);
+    QVERIFY(m_own->tabs()->saveCurrent());
+    QVERIFY(script.isDone());
+    QCOMPARE(bytes(), QByteArray("still mine\n"));
+}
+
+QTEST_MAIN(tst_WorkbenchTools)
+
+#include "tst_workbenchtools.moc"
