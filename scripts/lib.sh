@@ -74,6 +74,7 @@ package_names() {
     tidy) echo clang clang-tidy python3 ;;
     clazy) echo clang clazy python3 ;;
     fuzz) echo clang libclang-rt-dev ;;
+    docs) echo doxygen ;;
     tree) echo debootstrap debian-archive-keyring util-linux ;;
     *) die "no such group of packages: $1" ;;
     esac
