@@ -69,6 +69,7 @@ package_names() {
         echo g++ cmake ninja-build ccache pkg-config qt6-base-dev libgl-dev "$svg" fonts-dejavu-core
         echo libbenchmark-dev
         echo strace util-linux mount e2fsprogs # for tests that let the system fail
+        echo xvfb openbox xdotool imagemagick # for tests at a screen
         ;;
     format) echo clang-format shellcheck ;;
     tidy) echo clang clang-tidy python3 ;;

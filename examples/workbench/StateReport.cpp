@@ -126,9 +126,11 @@ QStringList StateReport::state() const
     const WorkbenchDocument *current = m_tabs->current();
     const QWidget *focus = QApplication::focusWidget();
     const QWidget *modal = QApplication::activeModalWidget();
+    const QWidget *active = QApplication::activeWindow();
     QStringList lines{
         u"title: "_s + titleOf(m_window),
         u"window: "_s + placeOf(m_window),
+        u"active: "_s + (active ? active->objectName() : QString()),
         u"folder: "_s + folder(),
         u"breadcrumbs: "_s + breadcrumbs(),
         u"section: %1"_s.arg(content->currentSection()),

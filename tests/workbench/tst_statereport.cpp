@@ -70,6 +70,7 @@ void tst_StateReport::saysWhatIsShown()
     QCOMPARE(value(u"folder"_s), path({}));
     QVERIFY(value(u"breadcrumbs"_s).startsWith(u"tmp > "_s)
             || value(u"breadcrumbs"_s).contains(u" > "_s));
+    QCOMPARE(value(u"active"_s), u"workbench"_s);
     QCOMPARE(value(u"document"_s), QString());
     QCOMPARE(value(u"temporary pages"_s), QString());
     QCOMPARE(value(u"ribbon page"_s), u"homePage"_s);
