@@ -5,6 +5,7 @@
 
 #include "DocumentTabs.h"
 #include "FilterGallery.h"
+#include "TextDocument.h"
 
 #include <VornFrame/AddressBar.h>
 #include <VornFrame/DockContainer.h>
@@ -20,8 +21,11 @@
 #include <QFileInfo>
 #include <QFileSystemModel>
 #include <QMenu>
+#include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTextBlock>
 #include <QToolButton>
 #include <QTreeView>
 
@@ -62,6 +66,11 @@ QString titleOf(const QWidget *window)
 {
     const QString star = window->isWindowModified() ? u"*"_s : QString();
     return window->windowTitle().replace(u"[*]"_s, star);
+}
+
+QString nameOf(const QWidget *window)
+{
+    return window->objectName().isEmpty() ? titleOf(window) : window->objectName();
 }
 
 QString plain(QString text)
@@ -117,6 +126,8 @@ QString StateReport::place(const QString &kind, const QString &name) const
         return tabPlace(name.section(u' ', 0, 0).toInt(), name.section(u' ', 1).toInt());
     if (kind == "file"_L1)
         return filePlace(name);
+    if (kind == "entry"_L1)
+        return entryPlace(name);
     return {};
 }
 
@@ -130,7 +141,7 @@ QStringList StateReport::state() const
     QStringList lines{
         u"title: "_s + titleOf(m_window),
         u"window: "_s + placeOf(m_window),
-        u"active: "_s + (active ? active->objectName() : QString()),
+        u"active: "_s + (active ? nameOf(active) : QString()),
         u"folder: "_s + folder(),
         u"breadcrumbs: "_s + breadcrumbs(),
         u"section: %1"_s.arg(content->currentSection()),
@@ -143,7 +154,34 @@ QStringList StateReport::state() const
     lines += panels();
     lines.append(u"focus: "_s + (focus ? focus->objectName() : QString()));
     lines.append(u"box: "_s + (modal ? modal->windowTitle() : QString()));
+    lines.append(u"box text: "_s + boxText());
+    lines.append(u"message: "_s + lastMessage());
+    lines.append(u"selection: "_s + selection());
     return lines;
+}
+
+QString StateReport::boxText()
+{
+    const auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+    return box ? box->text().replace(u'\n', u' ') : QString();
+}
+
+/// Of the log.
+QString StateReport::lastMessage() const
+{
+    const auto *log = m_window->findChild<QPlainTextEdit *>(u"messageText"_s);
+    return log ? log->document()->lastBlock().text() : QString();
+}
+
+/// In the text that is seen: where the selection begins, and what is selected.
+QString StateReport::selection() const
+{
+    const auto *text = qobject_cast<TextDocument *>(m_tabs->current());
+    if (!text)
+        return {};
+    const QTextCursor cursor = text->editor()->textCursor();
+    return u"%1 %2"_s.arg(cursor.selectionStart())
+        .arg(cursor.selectedText().replace(QChar::ParagraphSeparator, u' '));
 }
 
 QString StateReport::folder() const
@@ -261,6 +299,17 @@ QString StateReport::buttonPlace(const QString &text)
             if (place != nowhere())
                 return place;
         }
+    }
+    return nowhere();
+}
+
+QString StateReport::entryPlace(const QString &text)
+{
+    const auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    const QList<QAction *> entries = menu ? menu->actions() : QList<QAction *>();
+    for (QAction *entry : entries) {
+        if (plain(entry->text()) == text)
+            return placeOf(menu, menu->actionGeometry(entry));
     }
     return nowhere();
 }

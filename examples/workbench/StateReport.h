@@ -27,7 +27,8 @@ public:
     ///   clicked, by their object names;
     /// - "button TEXT": the same for a button of this text or accessible name, wherever it is;
     /// - "section INDEX", "tab SECTION INDEX": the same for tabs of the work surface;
-    /// - "file NAME": the same for the line of a file in the folder that is shown.
+    /// - "file NAME": the same for the line of a file in the folder that is shown;
+    /// - "entry TEXT": the same for an entry of the menu that is open.
     ///
     /// Another command is answered by a line "error: ".
     QStringList answer(const QString &command) const;
@@ -40,10 +41,14 @@ private:
     QString ribbonPage() const;
     static QString temporaryPages();
     QStringList panels() const;
+    static QString boxText();
+    QString lastMessage() const;
+    QString selection() const;
     QString place(const QString &kind, const QString &name) const;
     static QString widgetPlace(const QString &name);
     QString actionPlace(const QString &name) const;
     static QString buttonPlace(const QString &text);
+    static QString entryPlace(const QString &text);
     QString sectionPlace(int section) const;
     QString tabPlace(int section, int tab) const;
     QString filePlace(const QString &name) const;

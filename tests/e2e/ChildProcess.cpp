@@ -6,6 +6,7 @@
 #ifdef Q_OS_LINUX
 #    include <csignal>
 
+#    include <linux/capability.h>
 #    include <sys/prctl.h>
 #endif
 
@@ -18,7 +19,12 @@ constexpr int Patience = 5000; // ms
 ChildProcess::ChildProcess()
 {
 #ifdef Q_OS_LINUX
-    setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
+    setChildProcessModifier([] {
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
+        // Root too shall be refused what the rights of a file forbid.
+        prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE);
+        prctl(PR_CAPBSET_DROP, CAP_DAC_READ_SEARCH);
+    });
 #endif
 }
 

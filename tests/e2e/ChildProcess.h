@@ -5,7 +5,8 @@
 
 #include <QProcess>
 
-/// A program that ends with the one that started it, even when that is killed.
+/// A program that ends with the one that started it, even when that is killed, and that has no more
+/// rights to files than their permissions give.
 class ChildProcess : public QProcess
 {
     Q_OBJECT

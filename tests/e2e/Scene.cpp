@@ -41,7 +41,7 @@ void Scene::start(const QStringList &arguments)
     m_workbench = std::make_unique<WorkbenchProcess>(
         &m_home, WorkbenchProcess::Place{m_display.name(), m_scale}, &m_steps);
     m_workbench->start(m_program, arguments);
-    m_workbench->waitFor(u"active"_s, u"workbench"_s);
+    m_workbench->waitFor(u"active"_s, [](const QString &window) { return !window.isEmpty(); });
 }
 
 void Scene::close()

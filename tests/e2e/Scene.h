@@ -29,7 +29,7 @@ public:
     void write(const QString &name, const QByteArray &bytes);
     QByteArray bytesOf(const QString &name) const;
 
-    /// Starts the workbench, and waits until it has the keyboard.
+    /// Starts the workbench, and waits until one of its windows has the keyboard.
     void start(const QStringList &arguments);
 
     /// Closes its window as a person does; leave() also waits until the program has ended.
