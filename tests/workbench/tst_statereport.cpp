@@ -8,12 +8,16 @@
 #include "FilterGallery.h"
 #include "PictureFilters.h"
 #include "StateReport.h"
+#include "TextDocument.h"
 #include "WorkbenchWindow.h"
 
 #include <VornFrame/AddressBar.h>
 #include <VornFrame/RibbonBar.h>
 
 #include <QAction>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QTabBar>
 #include <QTreeView>
 
@@ -27,6 +31,9 @@ class tst_StateReport final : public WorkbenchFixture
 private Q_SLOTS:
     void saysWhatIsShown();
     void saysWhereThingsAre();
+    void saysWhatATextAndTheLogHold();
+    void saysWhatABoxAsks();
+    void saysWhereAnEntryOfAMenuIs();
     void whatCannotBeSeenIsNowhere_data();
     void whatCannotBeSeenIsNowhere();
     void placesAreOnTheScreen();
@@ -125,6 +132,52 @@ void tst_StateReport::saysWhereThingsAre()
     QCOMPARE(value(u"focus"_s), u"searchField"_s);
 }
 
+void tst_StateReport::saysWhatATextAndTheLogHold()
+{
+    QCOMPARE(value(u"message"_s), QString());
+    QCOMPARE(value(u"selection"_s), QString());
+    auto *text = new TextDocument(path(u"t1"_s), TextFile());
+    text->editor()->setPlainText(u"alpha\nbeta\ngamma"_s);
+    content()->addTab(WorkbenchDocument::Text, text, u"t1"_s);
+    QCOMPARE(value(u"selection"_s), u"0 "_s);
+    QTextCursor cursor = text->editor()->textCursor();
+    cursor.setPosition(12);
+    cursor.setPosition(3, QTextCursor::KeepAnchor);
+    text->editor()->setTextCursor(cursor);
+    QCOMPARE(value(u"selection"_s), u"3 ha beta g"_s);
+    open({u"t2"_s});
+    QCOMPARE(value(u"selection"_s), QString());
+    QCOMPARE(value(u"message"_s), u"Information: “%1” was opened."_s.arg(path(u"t2"_s)));
+}
+
+void tst_StateReport::saysWhatABoxAsks()
+{
+    QCOMPARE(value(u"box"_s), QString());
+    QCOMPARE(value(u"box text"_s), QString());
+    QMessageBox box(QMessageBox::Warning, u"Title"_s, u"First\nsecond"_s, QMessageBox::Ok,
+                    window());
+    box.open();
+    QCOMPARE(value(u"box"_s), u"Title"_s);
+    QCOMPARE(value(u"box text"_s), u"First second"_s);
+    // It has no object name.
+    QTRY_COMPARE(value(u"active"_s), u"Title"_s);
+    box.close();
+    QCOMPARE(value(u"box text"_s), QString());
+}
+
+void tst_StateReport::saysWhereAnEntryOfAMenuIs()
+{
+    QMenu menu(window());
+    menu.addAction(u"&First"_s);
+    QAction *second = menu.addAction(u"Se&cond"_s);
+    menu.popup(window()->mapToGlobal(QPoint(50, 50)));
+    const QRect rect = menu.actionGeometry(second);
+    QCOMPARE(place(u"entry Second"_s), QRect(menu.mapToGlobal(rect.topLeft()), rect.size()));
+    QVERIFY(!place(u"entry Third"_s).isValid());
+    menu.close();
+    QVERIFY(!place(u"entry Second"_s).isValid());
+}
+
 void tst_StateReport::whatCannotBeSeenIsNowhere_data()
 {
     QTest::addColumn<QString>("command");
@@ -137,6 +190,7 @@ void tst_StateReport::whatCannotBeSeenIsNowhere_data()
     QTest::newRow("empty section") << u"section 1"_s;
     QTest::newRow("missing section") << u"section 7"_s;
     QTest::newRow("missing tab") << u"tab 0 0"_s;
+    QTest::newRow("entry without a menu") << u"entry Close"_s;
     QTest::newRow("missing file") << u"file nothing"_s;
 }
 
