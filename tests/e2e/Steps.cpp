@@ -15,6 +15,8 @@ constexpr std::chrono::milliseconds Poll_Interval{20};
 
 } // namespace
 
+Steps::Steps(std::chrono::milliseconds patience) : m_patience(patience) {}
+
 void Steps::add(const QString &step)
 {
     if (!haveFailed())
@@ -35,7 +37,7 @@ QString Steps::failure() const
 
 bool Steps::waitUntil(const std::function<bool()> &isThere, const std::function<QString()> &reason)
 {
-    const QDeadlineTimer deadline(Patience);
+    const QDeadlineTimer deadline(m_patience);
     while (!haveFailed()) {
         if (isThere())
             return !haveFailed();

@@ -15,8 +15,11 @@
 class Steps
 {
 public:
-    /// How long a program may take to show something, on a slow machine too.
+    /// How long a program may take for something, on a slow machine too.
     static constexpr std::chrono::seconds Patience{20};
+
+    /// Nothing is waited for longer than \a patience.
+    explicit Steps(std::chrono::milliseconds patience = Patience);
 
     void add(const QString &step);
     void fail(const QString &reason);
@@ -29,6 +32,7 @@ public:
     bool waitUntil(const std::function<bool()> &isThere, const std::function<QString()> &reason);
 
 private:
+    const std::chrono::milliseconds m_patience;
     QStringList m_steps;
     QString m_reason;
 };

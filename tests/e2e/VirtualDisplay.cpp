@@ -16,8 +16,10 @@ constexpr int Patience = int(std::chrono::milliseconds(Steps::Patience).count())
 VirtualDisplay::VirtualDisplay(QSize size, Steps *steps) : m_steps(steps)
 {
     startServer(size);
-    if (!m_name.isEmpty())
-        startManager();
+    if (m_steps->haveFailed())
+        return;
+    pressFirstKey();
+    startManager();
 }
 
 /// The server itself chooses a number that is free, and says it when it is ready.
@@ -35,6 +37,14 @@ void VirtualDisplay::startServer(QSize size)
         m_name = u':' + QString::fromLatin1(number.trimmed());
     else
         m_steps->fail(u"Xvfb could not be started: "_s + m_server.errorString());
+}
+
+/// The first key tells all programs of a new keyboard. While the manager looks at that, it knows
+/// none of its own keys, so this has to be over before it comes.
+void VirtualDisplay::pressFirstKey() const
+{
+    if (!run(u"xdotool"_s, {u"key"_s, u"Shift_L"_s}))
+        m_steps->fail(u"xdotool could not be run"_s);
 }
 
 void VirtualDisplay::startManager()

@@ -34,6 +34,7 @@ public:
 
 private:
     void startServer(QSize size);
+    void pressFirstKey() const;
     void startManager();
 
     Steps *const m_steps;

@@ -11,12 +11,23 @@ class tst_E2eClosing final : public EndToEndCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void aTabIsClosedByItsCross();
     void allTabsButOneAreClosed_data();
     void allTabsButOneAreClosed();
     void whoStaysKeepsEverything();
     void whoLeavesDecidesAboutTheChanges_data();
     void whoLeavesDecidesAboutTheChanges();
 };
+
+void tst_E2eClosing::aTabIsClosedByItsCross()
+{
+    scene()->start({u"folder/readme.txt"_s, u"folder/notes.md"_s});
+    workbench()->waitFor(u"tabs 0"_s, u"readme.txt | notes.md"_s);
+    const QRect tab = workbench()->place(u"tab 0 0"_s);
+    person()->click({tab.right() - 14, tab.center().y()});
+    workbench()->waitFor(u"tabs 0"_s, u"notes.md"_s);
+    scene()->leave();
+}
 
 void tst_E2eClosing::allTabsButOneAreClosed_data()
 {

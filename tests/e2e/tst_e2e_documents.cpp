@@ -19,6 +19,7 @@ private Q_SLOTS:
     void tabsAreSwitchedByKeysAlone();
     void whatIsTypedIsSaved();
     void aTextIsSearched();
+    void theWheelGoesThroughAText();
     void aFileThatCannotBeOpenedIsSaid_data();
     void aFileThatCannotBeOpenedIsSaid();
     void aFileThatIsNotThereIsSaid();
@@ -146,6 +147,29 @@ void tst_E2eDocuments::aTextIsSearched()
     person()->press(u"Return"_s);
     workbench()->waitFor(u"message"_s, u"Information: “zebra” was not found."_s);
     workbench()->waitFor(u"selection"_s, u"9 alpha"_s);
+    scene()->leave();
+}
+
+void tst_E2eDocuments::theWheelGoesThroughAText()
+{
+    QByteArray lines;
+    for (int line = 0; line < 200; ++line)
+        lines += QByteArray::number(line) + QByteArray(line, '-') + '\n';
+    scene()->write(u"folder/long.txt"_s, lines);
+    scene()->start({u"folder/long.txt"_s});
+    workbench()->waitFor(u"focus"_s, u"text"_s);
+    const QRect text = workbench()->place(u"widget text"_s);
+    person()->move(text.center());
+    const auto picture = [this, text] {
+        return scene()->picture().copy(text.adjusted(0, 30, 0, 0));
+    };
+    // Without the first line, where the cursor blinks.
+    const QImage before = picture();
+    const auto reason = [] { return u"the text is not scrolled as expected"_s; };
+    person()->wheel(text.center(), 3);
+    scene()->steps()->waitUntil([&] { return picture() != before; }, reason);
+    person()->wheel(text.center(), -5);
+    scene()->steps()->waitUntil([&] { return picture() == before; }, reason);
     scene()->leave();
 }
 

@@ -3,6 +3,8 @@
 
 #include "EndToEndCase.h"
 
+#include <QFile>
+
 using namespace Qt::StringLiterals;
 
 /// Display, person and program, whatever is done with them.
@@ -14,6 +16,9 @@ private Q_SLOTS:
     void theProgramIsUsedAtEveryScale_data();
     void theProgramIsUsedAtEveryScale();
     void aFailureTellsWhatWasDoneBefore();
+    void aMissingProgramIsNamed();
+    void whatDoesNotComeFailsWithWhatIsThereInstead();
+    void aWarningFailsTheScenario();
 };
 
 void tst_E2eDriver::theProgramIsUsedAtEveryScale_data()
@@ -53,6 +58,50 @@ void tst_E2eDriver::aFailureTellsWhatWasDoneBefore()
     QCOMPARE(steps.failure(), u"reason\nafter: first\n       second"_s);
     // What follows is not even tried.
     QVERIFY(!steps.waitUntil([] { return true; }, [] { return QString(); }));
+}
+
+void tst_E2eDriver::aMissingProgramIsNamed()
+{
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", QFile::encodeName(scene()->path(u"folder"_s)));
+    Steps steps;
+    const VirtualDisplay display({640, 480}, &steps);
+    qputenv("PATH", path);
+    QVERIFY2(steps.failure().startsWith(u"Xvfb could not be started"_s),
+             qPrintable(steps.failure()));
+    QCOMPARE(display.name(), QString());
+    QVERIFY(display.picture().isNull());
+}
+
+void tst_E2eDriver::whatDoesNotComeFailsWithWhatIsThereInstead()
+{
+    const TemporaryHome home;
+    Steps steps;
+    WorkbenchProcess process(&home, WorkbenchProcess::Place{}, &steps);
+    process.start(QString::fromUtf8(WORKBENCH_PROGRAM), {});
+    QVERIFY2(!steps.haveFailed(), qPrintable(steps.failure()));
+    QCOMPARE(process.value(u"nonsense"_s), QString());
+    QVERIFY(steps.failure().startsWith(u"the report says nothing about “nonsense”"_s));
+
+    Steps hasty(std::chrono::milliseconds(100));
+    WorkbenchProcess other(&home, WorkbenchProcess::Place{}, &hasty);
+    other.start(QString::fromUtf8(WORKBENCH_PROGRAM), {});
+    // However long the start takes, one of the two waits too long.
+    other.waitFor(u"section"_s, u"7"_s);
+    QVERIFY2(hasty.failure().contains(u"section is “0”"_s)
+                 || hasty.failure().contains(u"cannot be seen"_s),
+             qPrintable(hasty.failure()));
+}
+
+void tst_E2eDriver::aWarningFailsTheScenario()
+{
+    Scene other(QString::fromUtf8(WORKBENCH_PROGRAM));
+    other.write(u"settings.ini/in_the_way"_s, "a folder has the name of the settings\n");
+    other.start({});
+    QVERIFY2(!other.steps()->haveFailed(), qPrintable(other.steps()->failure()));
+    other.leave();
+    QVERIFY2(other.steps()->failure().contains(u"The settings could not be written"_s),
+             qPrintable(other.steps()->failure()));
 }
 
 QTEST_GUILESS_MAIN(tst_E2eDriver)

@@ -14,7 +14,7 @@ class tst_E2eLayout final : public EndToEndCase
 
 private Q_SLOTS:
     void aPanelIsDraggedToNothingAndComesBack();
-    void theViewMenuOfAPanelMinimizesIt();
+    void theViewPageTakesAPanelAwayAndBringsItBack();
     void theNextStartFindsEverythingAgain();
     void aFileThatVanishedMeanwhileIsInTheLog();
 
@@ -63,7 +63,7 @@ void tst_E2eLayout::aPanelIsDraggedToNothingAndComesBack()
     scene()->leave();
 }
 
-void tst_E2eLayout::theViewMenuOfAPanelMinimizesIt()
+void tst_E2eLayout::theViewPageTakesAPanelAwayAndBringsItBack()
 {
     scene()->start({u"folder"_s});
     scene()->click(u"button View"_s);

@@ -5,6 +5,7 @@
 #include "TemporaryHome.h"
 #include "WorkbenchProcess.h"
 
+#include <QDebug>
 #include <QDir>
 #include <QFile>
 #include <QObject>
@@ -50,7 +51,9 @@ void tst_E2eOffscreen::init()
 void tst_E2eOffscreen::cleanup()
 {
     m_workbench.reset();
-    QVERIFY2(!m_steps->haveFailed(), qPrintable(m_steps->failure()));
+    if (m_steps->haveFailed())
+        qInfo().noquote() << m_steps->failure();
+    QVERIFY2(!m_steps->haveFailed(), "a step of the scenario failed");
 }
 
 void tst_E2eOffscreen::write(const QString &name, const QByteArray &bytes) const
