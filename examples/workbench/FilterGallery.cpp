@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int Display_Count = 4;
+constexpr int Display_Count = 6;
 constexpr QSize Preview_Size(32, 32);
 
 QString actionName(const QString &id)
