@@ -7,6 +7,8 @@
 
 #include <QHeaderView>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -40,7 +42,13 @@ OutlineView::OutlineView(QWidget *parent) : QTreeWidget(parent)
 
 void OutlineView::setEntries(const QList<OutlineEntry> &entries, const QString &hint)
 {
+    if (!entries.isEmpty() && hasShapeOf(entries)) {
+        for (qsizetype i = 0; i < entries.size(); ++i)
+            m_items.at(i)->setData(0, LineRole, entries.at(i).line);
+        return;
+    }
     clear();
+    m_items.clear();
     if (entries.isEmpty()) {
         auto *item = new QTreeWidgetItem({hint});
         item->setSizeHint(0, {0, ToolView::Row_Height});
@@ -49,6 +57,14 @@ void OutlineView::setEntries(const QList<OutlineEntry> &entries, const QString &
     }
     addEntries(entries);
     expandAll();
+}
+
+bool OutlineView::hasShapeOf(const QList<OutlineEntry> &entries) const
+{
+    const auto isLike = [](const QTreeWidgetItem *item, const OutlineEntry &entry) {
+        return item->text(0) == entry.text && item->data(0, LevelRole).toInt() == entry.level;
+    };
+    return std::equal(m_items.cbegin(), m_items.cend(), entries.cbegin(), entries.cend(), isLike);
 }
 
 void OutlineView::addEntries(const QList<OutlineEntry> &entries)
@@ -63,6 +79,7 @@ void OutlineView::addEntries(const QList<OutlineEntry> &entries)
             parent->addChild(item);
         else
             addTopLevelItem(item);
+        m_items.append(item);
         last = item;
     }
 }

@@ -16,7 +16,8 @@ class OutlineView : public QTreeWidget
 public:
     explicit OutlineView(QWidget *parent = nullptr);
 
-    /// Lists \a entries, or \a hint when there are none.
+    /// Lists \a entries, or \a hint when there are none. Entries of the same texts and levels as
+    /// before stay as they are seen, and only lead to other lines.
     void setEntries(const QList<OutlineEntry> &entries, const QString &hint);
 
 Q_SIGNALS:
@@ -24,6 +25,9 @@ Q_SIGNALS:
     void lineChosen(int line);
 
 private:
+    bool hasShapeOf(const QList<OutlineEntry> &entries) const;
     void addEntries(const QList<OutlineEntry> &entries);
     void choose(const QTreeWidgetItem *item);
+
+    QList<QTreeWidgetItem *> m_items; ///< those of the entries, in their order
 };

@@ -47,6 +47,8 @@ public:
 
     /// The absolute path; empty for a text that has no file yet.
     QString path() const { return m_path; }
+    /// Follows the file to another \a path.
+    void setPath(const QString &path) { m_path = path; }
 
     /// The text as it was last loaded or saved.
     QString text() const { return m_text; }

@@ -109,14 +109,14 @@ bool DocumentTabs::save(WorkbenchDocument *document)
 {
     const QString name = QDir::toNativeSeparators(document->path());
     QString reason = document->save();
-    auto *file = qobject_cast<FileDocument *>(document);
-    if (!reason.isEmpty() && file && file->canSaveAnyway()) {
-        const QPointer<DocumentTabs> guard(this);
-        const QPointer<FileDocument> asked(file);
-        if (!Messages::confirm(m_content->window(), reason, tr("Save Anyway")) || guard == nullptr
-            || asked == nullptr)
+    const QPointer<DocumentTabs> guard(this);
+    const QPointer<FileDocument> file(qobject_cast<FileDocument *>(document));
+    while (!reason.isEmpty() && file && file->canSaveAnyway()) {
+        const QString question = tr("“%1” is not saved yet.").arg(name) + u"\n\n"_s + reason;
+        if (!Messages::confirm(m_content->window(), question, tr("Save Anyway")) || guard == nullptr
+            || file == nullptr)
             return false;
-        reason = asked->saveAnyway();
+        reason = file->saveAnyway();
     }
     if (reason.isEmpty())
         Q_EMIT signalMessage(tr("“%1” was saved.").arg(name));
@@ -131,11 +131,39 @@ bool DocumentTabs::saveCurrent()
     return document == nullptr || save(document);
 }
 
+bool DocumentTabs::saveCopy(WorkbenchDocument *document, const QString &path)
+{
+    auto *file = qobject_cast<FileDocument *>(document);
+    const QString reason = file ? file->saveCopy(path) : tr("It cannot be copied.");
+    const QString name = QDir::toNativeSeparators(path);
+    if (reason.isEmpty())
+        Q_EMIT signalMessage(tr("The copy “%1” was written.").arg(name));
+    else
+        Q_EMIT signalFailed(tr("The copy “%1” could not be written.").arg(name), reason);
+    return reason.isEmpty();
+}
+
+void DocumentTabs::followRename(const QString &folder, const QString &oldName,
+                                const QString &newName)
+{
+    const QDir around(folder);
+    const QString before = around.filePath(oldName);
+    const QList<WorkbenchDocument *> all = documents();
+    for (WorkbenchDocument *document : all) {
+        const QString path = document->path();
+        // It may be the folder of the document, or one around that.
+        if (path == before || path.startsWith(before + u'/'))
+            move(document, around.filePath(newName) + path.mid(before.size()));
+    }
+}
+
 bool DocumentTabs::saveAll()
 {
     bool isSaved = true;
     const QList<WorkbenchDocument *> all = documents();
-    for (const QPointer<WorkbenchDocument> document : all) {
+    // A message may hold this up while documents go.
+    const QList<QPointer<WorkbenchDocument>> guarded(all.cbegin(), all.cend());
+    for (const QPointer<WorkbenchDocument> &document : guarded) {
         if (document && document->isModified())
             isSaved = save(document) && isSaved;
     }
@@ -148,6 +176,18 @@ void DocumentTabs::closeCurrent()
         return;
     const int section = m_content->currentSection();
     close(VornFrame::CloseCurrent, section, m_content->currentTab(section));
+}
+
+void DocumentTabs::undo()
+{
+    if (WorkbenchDocument *document = current())
+        document->undo();
+}
+
+void DocumentTabs::redo()
+{
+    if (WorkbenchDocument *document = current())
+        document->redo();
 }
 
 bool DocumentTabs::askAll()
@@ -194,6 +234,10 @@ void DocumentTabs::add(WorkbenchDocument *document)
         if (document == current())
             Q_EMIT signalContentChanged();
     });
+    connect(document, &WorkbenchDocument::signalHistoryChanged, this, [this, document] {
+        if (document == current())
+            Q_EMIT signalHistoryChanged();
+    });
     connect(document, &WorkbenchDocument::signalMessage, this, &DocumentTabs::signalMessage);
     Q_EMIT signalMessage(tr("“%1” was opened.").arg(QDir::toNativeSeparators(document->path())));
 }
@@ -229,6 +273,16 @@ void DocumentTabs::remove(WorkbenchDocument *document)
     document->disconnect(this);
     document->deleteLater();
     Q_EMIT signalMessage(tr("“%1” was closed.").arg(QDir::toNativeSeparators(document->path())));
+}
+
+void DocumentTabs::move(WorkbenchDocument *document, const QString &path)
+{
+    document->setPath(path);
+    m_content->setTabToolTip(m_content->sectionOf(document), m_content->tabOf(document),
+                             toolTipFor(path));
+    showModified(document);
+    Q_EMIT signalMessage(
+        tr("An open file is called “%1” now.").arg(QDir::toNativeSeparators(path)));
 }
 
 void DocumentTabs::show(WorkbenchDocument *document)

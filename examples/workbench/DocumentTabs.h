@@ -43,7 +43,18 @@ public:
     bool saveCurrent();
     bool saveAll();
 
+    /// Writes a copy of \a document, as it is now, to the file at \a path. False, after
+    /// signalFailed(), when that was not possible.
+    bool saveCopy(WorkbenchDocument *document, const QString &path);
+
+    /// Keeps to the file, or the folder of files, that has another name in \a folder now.
+    void followRename(const QString &folder, const QString &oldName, const QString &newName);
+
     void closeCurrent();
+
+    /// Of the current document.
+    void undo();
+    void redo();
 
     /// Asks what is to become of all unsaved changes. False when nothing may be closed now.
     bool askAll();
@@ -58,6 +69,8 @@ Q_SIGNALS:
     void signalCurrentChanged();
     /// What the current document is, or whether it has changes, is another now.
     void signalContentChanged();
+    /// The current document can undo or redo something now, or no longer.
+    void signalHistoryChanged();
     /// Documents were opened or closed, or have changes or none now.
     void signalDocumentsChanged();
     /// Something for the log.
@@ -69,6 +82,7 @@ private:
     void add(WorkbenchDocument *document);
     void close(VornFrame::CloseMode mode, int section, int index);
     void remove(WorkbenchDocument *document);
+    void move(WorkbenchDocument *document, const QString &path);
     void show(WorkbenchDocument *document);
     void showModified(WorkbenchDocument *document);
     WorkbenchDocument *documentOf(const QString &path) const;

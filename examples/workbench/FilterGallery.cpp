@@ -81,6 +81,11 @@ void FilterGallery::setFavourites(const QStringList &ids)
 void FilterGallery::setPreviewOf(const QImage &picture)
 {
     const qreal ratio = devicePixelRatioF();
+    // Zooming tells of the same picture again and again, and a large one takes its time.
+    if (m_hasPreviews && m_pictureKey == picture.cacheKey() && qFuzzyCompare(m_ratio, ratio))
+        return;
+    m_pictureKey = picture.cacheKey();
+    m_ratio = ratio;
     QImage thumbnail;
     if (!picture.isNull()) {
         thumbnail = picture.scaled(Preview_Size * ratio, Qt::KeepAspectRatio,

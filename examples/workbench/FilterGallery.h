@@ -45,5 +45,7 @@ private:
     QHash<QString, Place> m_places;
     QStringList m_favourites; ///< as far as it was heard of them
     QImage m_thumbnail; ///< what the previews are of
+    qint64 m_pictureKey = 0; ///< of the picture that it shows
+    qreal m_ratio = 0; ///< of the screen for which it was made
     bool m_hasPreviews = false;
 };

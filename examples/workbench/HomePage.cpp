@@ -4,6 +4,7 @@
 #include "HomePage.h"
 
 #include "ActionFactory.h"
+#include "ClipboardController.h"
 #include "DocumentTabs.h"
 #include "TreeActions.h"
 
@@ -19,15 +20,16 @@ using VornFrame::RibbonPage;
 using VornFrame::RibbonSubgroup;
 
 HomePage::HomePage(RibbonPage *page, const ActionFactory &actions, DocumentTabs *tabs,
-                   TreeActions *tree)
+                   TreeActions *tree, ClipboardController *clipboard)
     : QObject(page), m_tabs(tabs)
 {
     addFiles(page, actions);
     addTreeCommands(page, actions, tree);
-    addClipboard(page, actions, tree);
+    addClipboard(page, actions, clipboard);
     addView(page, actions);
     connect(tabs, &DocumentTabs::signalCurrentChanged, this, &HomePage::showState);
     connect(tabs, &DocumentTabs::signalDocumentsChanged, this, &HomePage::showState);
+    connect(tabs, &DocumentTabs::signalHistoryChanged, this, &HomePage::showHistory);
     showState();
 }
 
@@ -47,6 +49,9 @@ void HomePage::addFiles(RibbonPage *page, const ActionFactory &actions)
     m_close = actions.create(u"closeTab"_s, tr("Close Tab"), {u"Ctrl+W"_s});
     connect(m_close, &QAction::triggered, m_tabs, &DocumentTabs::closeCurrent);
     more->addAction(m_close);
+    m_saveCopy = actions.create(u"saveCopy"_s, tr("Save a Copy…"), {u"Ctrl+Alt+S"_s});
+    connect(m_saveCopy, &QAction::triggered, this, &HomePage::signalSaveCopyRequested);
+    more->addAction(m_saveCopy);
 }
 
 void HomePage::addTreeCommands(RibbonPage *page, const ActionFactory &actions, TreeActions *tree)
@@ -66,36 +71,40 @@ void HomePage::addTreeCommands(RibbonPage *page, const ActionFactory &actions, T
     more->addAction(remove);
 }
 
-void HomePage::addClipboard(RibbonPage *page, const ActionFactory &actions, TreeActions *tree)
+void HomePage::addClipboard(RibbonPage *page, const ActionFactory &actions,
+                            ClipboardController *clipboard)
 {
-    // No keys: texts and the tree have their own, each for itself.
-    RibbonGroup *group = page->addGroup(tr("Edit"));
+    // No keys: texts, tables and the tree have their own, each for itself.
     QAction *paste = actions.create(u"paste"_s, tr("Paste"));
-    tree->serve(paste, QKeySequence::Paste, "paste");
-    group->addAction(paste);
-    RibbonSubgroup *clipboard = group->addSubgroup();
     QAction *cut = actions.create(u"cut"_s, tr("Cut"));
-    tree->serve(cut, QKeySequence::Cut, "cut");
-    clipboard->addAction(cut);
     QAction *copy = actions.create(u"copy"_s, tr("Copy"));
-    tree->serve(copy, QKeySequence::Copy, "copy");
-    clipboard->addAction(copy);
+    clipboard->serve(cut, copy, paste);
+    RibbonGroup *group = page->addGroup(tr("Edit"));
+    group->addAction(paste);
+    RibbonSubgroup *more = group->addSubgroup();
+    more->addAction(cut);
+    more->addAction(copy);
     group->addSeparator();
+    addHistory(group, actions);
+}
+
+void HomePage::addHistory(RibbonGroup *group, const ActionFactory &actions)
+{
     RibbonSubgroup *history = group->addSubgroup();
-    QAction *undo = actions.create(u"undo"_s, tr("Undo"), QKeySequence::Undo);
-    connect(undo, &QAction::triggered, this, &HomePage::signalUndoRequested);
-    history->addAction(undo);
-    QAction *redo = actions.create(u"redo"_s, tr("Redo"), QKeySequence::Redo);
-    connect(redo, &QAction::triggered, this, &HomePage::signalRedoRequested);
-    history->addAction(redo);
+    m_undo = actions.create(u"undo"_s, tr("Undo"), QKeySequence::Undo);
+    connect(m_undo, &QAction::triggered, m_tabs, &DocumentTabs::undo);
+    history->addAction(m_undo);
+    m_redo = actions.create(u"redo"_s, tr("Redo"), QKeySequence::Redo);
+    connect(m_redo, &QAction::triggered, m_tabs, &DocumentTabs::redo);
+    history->addAction(m_redo);
 }
 
 void HomePage::addView(RibbonPage *page, const ActionFactory &actions)
 {
     RibbonGroup *group = page->addGroup(tr("View"));
-    QAction *full = actions.createSwitch(u"fullScreen"_s, tr("Full\nScreen"), Qt::Key_F11);
-    connect(full, &QAction::triggered, this, &HomePage::signalFullScreenRequested);
-    group->addAction(full);
+    m_fullScreen = actions.createSwitch(u"fullScreen"_s, tr("Full\nScreen"), Qt::Key_F11);
+    connect(m_fullScreen, &QAction::triggered, this, &HomePage::signalFullScreenRequested);
+    group->addAction(m_fullScreen);
     const auto addStep = [this, &actions](const QString &name, const QString &text,
                                           const QString &keys, const auto &go) {
         connect(actions.create(name, text, {keys}), &QAction::triggered, m_tabs, go);
@@ -113,4 +122,18 @@ void HomePage::showState()
     m_save->setEnabled(current != nullptr && current->isModified());
     m_saveAll->setEnabled(m_tabs->isAnyModified());
     m_close->setEnabled(current != nullptr);
+    m_saveCopy->setEnabled(current != nullptr);
+    showHistory();
+}
+
+void HomePage::showHistory()
+{
+    const WorkbenchDocument *current = m_tabs->current();
+    m_undo->setEnabled(current != nullptr && current->canUndo());
+    m_redo->setEnabled(current != nullptr && current->canRedo());
+}
+
+void HomePage::showFullScreen(bool on)
+{
+    m_fullScreen->setChecked(on);
 }

@@ -24,12 +24,20 @@ public:
 
     Kind kind() const { return m_kind; }
     QString path() const { return m_path; }
+    /// Follows the file to another \a path. What kind of document it is stays.
+    virtual void setPath(const QString &path) { m_path = path; }
 
     virtual bool isModified() const = 0;
 
     /// Writes the document to path(), whole or not at all. Returns why it could not, empty when it
     /// could.
     virtual QString save() = 0;
+
+    /// Whether there is something to undo or redo; signalHistoryChanged() tells of changes.
+    virtual bool canUndo() const { return false; }
+    virtual bool canRedo() const { return false; }
+    virtual void undo() {}
+    virtual void redo() {}
 
     /// What an outline of the document lists.
     virtual QList<OutlineEntry> outline() const = 0;
@@ -41,6 +49,8 @@ public:
 
 Q_SIGNALS:
     void signalModifiedChanged(bool modified);
+    /// There is something to undo or redo, or no longer.
+    void signalHistoryChanged();
     /// Outline or properties are other ones now.
     void signalContentChanged();
     /// Something happened that the log should tell.
@@ -48,5 +58,5 @@ Q_SIGNALS:
 
 private:
     const Kind m_kind;
-    const QString m_path;
+    QString m_path;
 };

@@ -4,6 +4,7 @@
 #include "WorkbenchWindow.h"
 
 #include "ActionFactory.h"
+#include "ClipboardController.h"
 #include "DockLayout.h"
 #include "FileKinds.h"
 #include "FilterGallery.h"
@@ -19,7 +20,6 @@
 #include "TableTools.h"
 #include "TextTools.h"
 #include "TreeActions.h"
-#include "UndoController.h"
 #include "ViewPage.h"
 
 #include <VornFrame/AddressBar.h>
@@ -67,6 +67,22 @@ RibbonPage *addPage(RibbonBar *bar, const QString &name, const QString &title,
     return page;
 }
 
+/// What stands in the outline of a \a document without one.
+QString outlineHint(const WorkbenchDocument *document)
+{
+    if (!document)
+        return WorkbenchWindow::tr("No document");
+    switch (document->kind()) {
+    case WorkbenchDocument::Text:
+        return WorkbenchWindow::tr("No headings");
+    case WorkbenchDocument::Picture:
+        return WorkbenchWindow::tr("Pictures have no outline");
+    case WorkbenchDocument::Table:
+        return WorkbenchWindow::tr("No columns");
+    }
+    return {};
+}
+
 } // namespace
 
 WorkbenchWindow::WorkbenchWindow(const QString &settingsFile, DocumentTabs::Loader loader,
@@ -84,12 +100,12 @@ WorkbenchWindow::WorkbenchWindow(const QString &settingsFile, DocumentTabs::Load
     createTree();
     createViews();
     createRibbon();
-    connect(m_tabs, &DocumentTabs::signalCurrentChanged, this, &WorkbenchWindow::showCurrent);
+    connect(m_tabs, &DocumentTabs::signalCurrentChanged, this, &WorkbenchWindow::showContent);
     connect(m_tabs, &DocumentTabs::signalContentChanged, this, &WorkbenchWindow::showContent);
     connect(m_tabs, &DocumentTabs::signalFailed, this, &WorkbenchWindow::fail);
     connect(m_tabs, &DocumentTabs::signalMessage, this,
             [this](const QString &text) { log(QtInfoMsg, text); });
-    showCurrent();
+    showContent();
     resize(Window_Size);
     loadSettings();
 }
@@ -149,6 +165,14 @@ void WorkbenchWindow::closeEvent(QCloseEvent *event)
         saveSettings(seen);
 }
 
+void WorkbenchWindow::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    // Also when it was the window manager, or the geometry of the last time.
+    if (event->type() == QEvent::WindowStateChange && m_homePage)
+        m_homePage->showFullScreen(isFullScreen());
+}
+
 /// The tree belongs to the bar, and hears of the suffixes only from now on.
 void WorkbenchWindow::createTree()
 {
@@ -168,7 +192,9 @@ void WorkbenchWindow::createTree()
     for (const QString &suffix : suffixes)
         bar->addSuffix(suffix);
     connect(bar, &AddressBar::signalFileOpen, m_tabs, &DocumentTabs::open);
-    m_treeActions = new TreeActions(m_tree, m_tabs, this);
+    if (const auto *model = qobject_cast<QFileSystemModel *>(m_tree->model()))
+        connect(model, &QFileSystemModel::fileRenamed, m_tabs, &DocumentTabs::followRename);
+    m_treeActions = new TreeActions(m_tree, this);
 }
 
 void WorkbenchWindow::createViews()
@@ -193,7 +219,7 @@ void WorkbenchWindow::createRibbon()
     const ActionFactory actions(this);
     RibbonBar *bar = m_agent.ribbonBar();
     m_homePage = new HomePage(addPage(bar, u"homePage"_s, tr("&Home")), actions, m_tabs,
-                              m_treeActions);
+                              m_treeActions, new ClipboardController(m_treeActions, m_tabs, this));
     m_viewPage = new ViewPage(addPage(bar, u"viewPage"_s, tr("&View")), actions, m_layout);
     RibbonPage *texts = addPage(bar, u"textTools"_s, tr("&Text Tools"), true);
     RibbonPage *pictures = addPage(bar, u"pictureTools"_s, tr("&Picture Tools"), true);
@@ -232,12 +258,10 @@ void WorkbenchWindow::createCorner(const ActionFactory &actions)
 
 void WorkbenchWindow::connectPages()
 {
-    const auto *history = new UndoController(m_tabs);
     connect(m_homePage, &HomePage::signalOpenRequested, this, &WorkbenchWindow::chooseFiles);
     connect(m_homePage, &HomePage::signalOpenSelectedRequested, this,
             &WorkbenchWindow::openSelected);
-    connect(m_homePage, &HomePage::signalUndoRequested, history, &UndoController::undo);
-    connect(m_homePage, &HomePage::signalRedoRequested, history, &UndoController::redo);
+    connect(m_homePage, &HomePage::signalSaveCopyRequested, this, &WorkbenchWindow::saveCopy);
     connect(m_homePage, &HomePage::signalFullScreenRequested, this,
             &WorkbenchWindow::setFullScreen);
     connect(m_homePage->newTextFile(), &QAction::triggered, this, &WorkbenchWindow::createTextFile);
@@ -260,6 +284,17 @@ void WorkbenchWindow::chooseFiles()
         if (guard)
             m_tabs->open(file);
     }
+}
+
+void WorkbenchWindow::saveCopy()
+{
+    const QPointer<WorkbenchWindow> guard(this);
+    const QPointer<WorkbenchDocument> document(m_tabs->current());
+    if (!document)
+        return;
+    const QString path = QFileDialog::getSaveFileName(this, tr("Save a Copy"), document->path());
+    if (guard && document && !path.isEmpty())
+        m_tabs->saveCopy(document, path);
 }
 
 void WorkbenchWindow::openSelected()
@@ -300,16 +335,11 @@ void WorkbenchWindow::showHelp()
                               "F11\tFull screen"));
 }
 
-void WorkbenchWindow::showCurrent()
-{
-    showContent();
-}
-
 void WorkbenchWindow::showContent()
 {
     const WorkbenchDocument *document = m_tabs->current();
     m_outline->setEntries(document ? document->outline() : QList<OutlineEntry>(),
-                          document ? tr("No headings") : tr("No document"));
+                          outlineHint(document));
     m_properties->setProperties(document ? document->properties()
                                          : QList<QPair<QString, QString>>());
     if (!document) {

@@ -51,6 +51,7 @@ public:
 protected:
     void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     void createViews();
@@ -58,16 +59,13 @@ private:
     void createRibbon();
     void createCorner(const ActionFactory &actions);
     void connectPages();
-    void bindPages();
     void log(QtMsgType type, const QString &text);
     void chooseFiles();
+    void saveCopy();
     void openSelected();
     void createTextFile();
-    void undo();
-    void redo();
     void setFullScreen(bool on);
     void showHelp();
-    void showCurrent();
     void showContent();
     void showPlaceholder();
     void showFirst();

@@ -362,14 +362,16 @@ void tst_TableDocument::cellsAreCopiedAndPasted()
     QCOMPARE(QGuiApplication::clipboard()->text(), u"1\t\"x\ny\"\n2\t3"_s);
     QCOMPARE(document->model()->index(1, 1).data().toString(), QString());
     QCOMPARE(document->undoStack()->count(), 1);
-    // What reaches beyond the table is left out.
+    // The table grows where it is too small.
     document->view()->setCurrentIndex(document->model()->index(2, 0));
     document->paste();
     QCOMPARE(document->model()->index(2, 1).data().toString(), u"x\ny"_s);
-    QCOMPARE(document->model()->rowCount(), 3);
+    QCOMPARE(document->model()->rowCount(), 4);
+    QCOMPARE(document->model()->index(3, 1).data().toString(), u"3"_s);
     QCOMPARE(document->undoStack()->count(), 2);
     document->undo();
     document->undo();
+    QCOMPARE(document->model()->rowCount(), 3);
     QVERIFY(!document->isModified());
     QCOMPARE(document->model()->index(2, 1).data().toString(), u"5"_s);
     QGuiApplication::clipboard()->clear();

@@ -24,12 +24,16 @@ private Q_SLOTS:
     void editingMakesItModifiedAndUndoingNot();
     void savingWritesWhatWasTypedAndKeepsTheRest();
     void savingAnUnmodifiedTextLeavesTheFile();
-    void savingWritesAFileThatIsGone();
+    void aFileThatIsGoneIsMadeAnewWhenTheUserSaysSo();
     void savingKeepsThePermissions();
     void aChangedFileIsNotOverwritten();
     void aFileThatIsAFolderNowIsNotOverwritten();
     void aLetterThatLatin1DoesNotHaveIsAskedFor();
+    void eachLossIsAskedForOnItsOwn();
     void aFailedSaveLeavesItModified();
+    void followsItsFile();
+    void tellsWhatCanBeUndone();
+    void aCopyHasTheEncodingThatItNeeds();
     void aCopyLeavesItModified();
     void aCopyIsNotTheFileItself();
     void headingsAreTheOutline();
@@ -109,12 +113,16 @@ void tst_TextDocument::savingAnUnmodifiedTextLeavesTheFile()
     QCOMPARE(QFileInfo(path).lastModified(), longAgo);
 }
 
-void tst_TextDocument::savingWritesAFileThatIsGone()
+void tst_TextDocument::aFileThatIsGoneIsMadeAnewWhenTheUserSaysSo()
 {
     const QString path = createFile(u"a.txt"_s, "a\r\n");
     const auto document = load<TextDocument>(path);
     QVERIFY(QFile::remove(path));
-    QCOMPARE(document->save(), QString());
+    QVERIFY(!document->save().isEmpty());
+    QVERIFY(document->canSaveAnyway());
+    QVERIFY(!QFile::exists(path));
+    QCOMPARE(document->saveAnyway(), QString());
+    QVERIFY(!document->canSaveAnyway());
     QCOMPARE(bytesOf(path), QByteArray("a\r\n"));
 }
 
@@ -186,9 +194,68 @@ void tst_TextDocument::aFailedSaveLeavesItModified()
     document->editor()->insertPlainText(u"b"_s);
     QVERIFY(QDir(filePath(u"folder"_s)).removeRecursively());
     QVERIFY(!document->save().isEmpty());
+    QVERIFY(!document->saveAnyway().isEmpty());
     QVERIFY(!document->canSaveAnyway());
     QVERIFY(document->isModified());
     QCOMPARE(document->text(), u"ba"_s);
+}
+
+void tst_TextDocument::eachLossIsAskedForOnItsOwn()
+{
+    const QString path = createFile(u"a.txt"_s, "\xE9\n");
+    const auto document = load<TextDocument>(path);
+    document->editor()->insertPlainText(u"\u20AC"_s);
+    createFile(u"a.txt"_s, "others");
+    QVERIFY(!document->save().contains(u'\u20AC'));
+    // Who gives up what others wrote has not chosen another encoding.
+    QVERIFY(document->saveAnyway().contains(u'\u20AC'));
+    QVERIFY(document->canSaveAnyway());
+    QCOMPARE(bytesOf(path), QByteArray("others"));
+    QCOMPARE(document->saveAnyway(), QString());
+    QCOMPARE(bytesOf(path), QByteArray("\xE2\x82\xAC\xC3\xA9\n"));
+}
+
+void tst_TextDocument::followsItsFile()
+{
+    const QString path = createFile(u"a.txt"_s, "a");
+    const auto document = load<TextDocument>(path);
+    document->editor()->insertPlainText(u"b"_s);
+    QVERIFY(QFile::rename(path, filePath(u"b.txt"_s)));
+    document->setPath(filePath(u"b.txt"_s));
+    QVERIFY(!document->isChangedOnDisk());
+    QCOMPARE(document->save(), QString());
+    QCOMPARE(bytesOf(filePath(u"b.txt"_s)), QByteArray("ba"));
+    QVERIFY(!QFile::exists(path));
+    createFile(u"b.txt"_s, "others");
+    QVERIFY(document->isChangedOnDisk());
+}
+
+void tst_TextDocument::tellsWhatCanBeUndone()
+{
+    const auto document = load<TextDocument>(createFile(u"a.txt"_s, "a"));
+    QSignalSpy spy(document.get(), &WorkbenchDocument::signalHistoryChanged);
+    QVERIFY(!document->canUndo());
+    document->editor()->insertPlainText(u"b"_s);
+    QVERIFY(document->canUndo());
+    QVERIFY(!document->canRedo());
+    QVERIFY(!spy.isEmpty());
+    spy.clear();
+    document->undo();
+    QVERIFY(!document->canUndo());
+    QVERIFY(document->canRedo());
+    QVERIFY(!spy.isEmpty());
+    document->redo();
+    QCOMPARE(document->text(), u"ba"_s);
+}
+
+void tst_TextDocument::aCopyHasTheEncodingThatItNeeds()
+{
+    const QString path = createFile(u"a.txt"_s, "\xE9");
+    const auto document = load<TextDocument>(path);
+    document->editor()->insertPlainText(u"\u20AC"_s);
+    QCOMPARE(document->saveCopy(filePath(u"b.txt"_s)), QString());
+    QCOMPARE(bytesOf(filePath(u"b.txt"_s)), QByteArray("\xE2\x82\xAC\xC3\xA9"));
+    QCOMPARE(property(document.get(), u"Encoding"_s), u"Latin-1"_s);
 }
 
 void tst_TextDocument::aCopyLeavesItModified()

@@ -15,12 +15,16 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QDir>
 #include <QFile>
+#include <QFileSystemModel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QTableView>
 #include <QToolTip>
+#include <QTreeView>
+#include <QTreeWidget>
 #include <QUndoStack>
 
 using namespace Qt::StringLiterals;
@@ -37,6 +41,13 @@ private Q_SLOTS:
     void pictureTools();
     void tableTools();
     void theClipboardServesTables();
+    void clipboardCommandsAreThereWhereTheyCanWork();
+    void undoAndRedoAreThereWhenThereIsSomething();
+    void aCopyIsSaved();
+    void aFileThatIsRenamedInTheTreeStaysOpen();
+    void aFolderThatIsRenamedInTheTreeTakesItsFilesAlong();
+    void theOutlineSaysWhyItIsEmpty();
+    void previewsAreMadeOncePerPicture();
     void searchesInATextRoundAndRound();
     void searchesInATable();
     void searchOffersFiltersForAPicture();
@@ -45,6 +56,8 @@ private Q_SLOTS:
 private:
     QAction *command(const QString &name) const { return m_own->findChild<QAction *>(name); }
     void search(const QString &text) const;
+    QByteArray bytesOf(const QString &name) const;
+    void rename(const QString &name, const QString &newName) const;
     template <class Document>
     Document *shown() const
     {
@@ -76,6 +89,21 @@ void tst_WorkbenchTools::search(const QString &text) const
     field->setFocus();
     field->setText(text);
     QTest::keyClick(field, Qt::Key_Return);
+}
+
+QByteArray tst_WorkbenchTools::bytesOf(const QString &name) const
+{
+    QFile file(path(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+}
+
+/// As the tree does it.
+void tst_WorkbenchTools::rename(const QString &name, const QString &newName) const
+{
+    auto *tree = m_own->findChild<QTreeView *>(u"folders"_s);
+    auto *model = qobject_cast<QFileSystemModel *>(tree->model());
+    QTRY_VERIFY(model->index(path(name)).isValid());
+    QVERIFY(model->setData(model->index(path(name)), newName));
 }
 
 void tst_WorkbenchTools::textTools()
@@ -171,6 +199,164 @@ void tst_WorkbenchTools::theClipboardServesTables()
     QCOMPARE(view->model()->index(0, 0).data().toString(), text);
 }
 
+void tst_WorkbenchTools::clipboardCommandsAreThereWhereTheyCanWork()
+{
+    const auto enabled = [this] {
+        QString letters;
+        for (const auto &name : {u"cut"_s, u"copy"_s, u"paste"_s})
+            letters += command(name)->isEnabled() ? name.at(0) : u'-';
+        return letters;
+    };
+    QApplication::clipboard()->clear();
+    QVERIFY(m_own->openPath(createFile(u"a.txt"_s, "one\n")));
+    QPlainTextEdit *editor = shown<TextDocument>()->editor();
+    QVERIFY(editor->hasFocus());
+    QCOMPARE(enabled(), u"---"_s);
+    editor->selectAll();
+    QCOMPARE(enabled(), u"cc-"_s);
+    command(u"copy"_s)->trigger();
+    QCOMPARE(enabled(), u"ccp"_s);
+    auto *field = m_own->findChild<QLineEdit *>(u"searchField"_s);
+    field->setFocus();
+    QCOMPARE(enabled(), u"--p"_s);
+    field->setText(u"a"_s);
+    field->selectAll();
+    QCOMPARE(enabled(), u"ccp"_s);
+    field->clear();
+    QCOMPARE(enabled(), u"--p"_s);
+    // A log can only be copied from.
+    auto *log = m_own->findChild<QPlainTextEdit *>(u"messageText"_s);
+    log->setFocus();
+    log->selectAll();
+    QCOMPARE(enabled(), u"-c-"_s);
+    QVERIFY(m_own->openPath(createFile(u"t.csv"_s, "1,2\n")));
+    QVERIFY(shown<TableDocument>()->view()->hasFocus());
+    QCOMPARE(enabled(), u"ccp"_s);
+    auto *tree = m_own->findChild<QTreeView *>(u"folders"_s);
+    tree->setFocus();
+    QString own = u"---"_s;
+    const QList<QAction *> actions = tree->actions();
+    for (const QAction *action : actions) {
+        if (action->isEnabled() && action->shortcut() == QKeySequence(QKeySequence::Cut))
+            own[0] = u'c';
+        if (action->isEnabled() && action->shortcut() == QKeySequence(QKeySequence::Copy))
+            own[1] = u'c';
+        if (action->isEnabled() && action->shortcut() == QKeySequence(QKeySequence::Paste))
+            own[2] = u'p';
+    }
+    QCOMPARE(enabled(), own);
+    m_own->findChild<QTreeView *>(u"properties"_s)->setFocus();
+    QCOMPARE(enabled(), u"---"_s);
+}
+
+void tst_WorkbenchTools::undoAndRedoAreThereWhenThereIsSomething()
+{
+    QAction *undo = command(u"undo"_s);
+    QAction *redo = command(u"redo"_s);
+    const auto verify = [undo, redo](bool canUndo, bool canRedo) {
+        QCOMPARE(undo->isEnabled(), canUndo);
+        QCOMPARE(redo->isEnabled(), canRedo);
+    };
+    verify(false, false);
+    QImage image(40, 20, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QVERIFY(image.save(path(u"p.png"_s)));
+    QVERIFY(m_own->openPath(createFile(u"a.txt"_s, "one\n")));
+    shown<TextDocument>()->editor()->insertPlainText(u"x"_s);
+    verify(true, false);
+    undo->trigger();
+    verify(false, true);
+    QVERIFY(m_own->openPath(path(u"p.png"_s)));
+    verify(false, false);
+    shown<PictureDocument>()->rotate(1);
+    verify(true, false);
+    undo->trigger();
+    verify(false, true);
+    QVERIFY(m_own->openPath(createFile(u"t.csv"_s, "1,2\n")));
+    shown<TableDocument>()->insertRow();
+    verify(true, false);
+    undo->trigger();
+    verify(false, true);
+    m_own->tabs()->closeCurrent();
+    m_own->tabs()->closeCurrent();
+    m_own->tabs()->closeCurrent();
+    verify(false, false);
+}
+
+void tst_WorkbenchTools::aCopyIsSaved()
+{
+    QVERIFY(!command(u"saveCopy"_s)->isEnabled());
+    QVERIFY(m_own->openPath(createFile(u"a.txt"_s, "one\n")));
+    shown<TextDocument>()->editor()->insertPlainText(u"x"_s);
+    ModalScript script;
+    script.chooseFile(path(u"b.txt"_s));
+    command(u"saveCopy"_s)->trigger();
+    QVERIFY(script.isDone());
+    QCOMPARE(bytesOf(u"b.txt"_s), QByteArray("xone\n"));
+    QCOMPARE(bytesOf(u"a.txt"_s), QByteArray("one\n"));
+    QVERIFY(shown<TextDocument>()->isModified());
+    script.answer(QMessageBox::Ok);
+    QVERIFY(!m_own->tabs()->saveCopy(shown<TextDocument>(), path(u"missing/b.txt"_s)));
+    QVERIFY(script.isDone());
+    shown<TextDocument>()->undo();
+}
+
+void tst_WorkbenchTools::aFileThatIsRenamedInTheTreeStaysOpen()
+{
+    QVERIFY(m_own->openPath(createFile(u"a.txt"_s, "one\n")));
+    shown<TextDocument>()->editor()->insertPlainText(u"x"_s);
+    rename(u"a.txt"_s, u"b.txt"_s);
+    QCOMPARE(shown<TextDocument>()->path(), path(u"b.txt"_s));
+    QCOMPARE(m_own->windowTitle(), u"b.txt[*] – Workbench"_s);
+    auto *content = m_own->agent()->dockContainer()->contentWidget();
+    QCOMPARE(content->tabText(0, 0), u"b.txt*"_s);
+    QVERIFY(content->tabToolTip(0, 0).contains(u"b.txt"_s));
+    QVERIFY(m_own->tabs()->saveCurrent());
+    QCOMPARE(bytesOf(u"b.txt"_s), QByteArray("xone\n"));
+    QVERIFY(!QFile::exists(path(u"a.txt"_s)));
+}
+
+void tst_WorkbenchTools::aFolderThatIsRenamedInTheTreeTakesItsFilesAlong()
+{
+    QVERIFY(QDir(path({})).mkdir(u"sub"_s));
+    QVERIFY(m_own->openPath(createFile(u"sub/a.txt"_s, "one\n")));
+    QVERIFY(m_own->tabs()->open(createFile(u"subway.txt"_s, "two\n")));
+    QVERIFY(m_own->openPath(path({})));
+    rename(u"sub"_s, u"other"_s);
+    const QList<WorkbenchDocument *> all = m_own->tabs()->documents();
+    QCOMPARE(all.at(0)->path(), path(u"other/a.txt"_s));
+    QCOMPARE(all.at(1)->path(), path(u"subway.txt"_s));
+}
+
+void tst_WorkbenchTools::theOutlineSaysWhyItIsEmpty()
+{
+    const auto *outline = m_own->findChild<QTreeWidget *>(u"outline"_s);
+    const auto said = [outline] { return outline->topLevelItem(0)->text(0); };
+    QCOMPARE(said(), u"No document"_s);
+    QImage image(40, 20, QImage::Format_RGB32);
+    QVERIFY(image.save(path(u"p.png"_s)));
+    QVERIFY(m_own->openPath(path(u"p.png"_s)));
+    QCOMPARE(said(), u"Pictures have no outline"_s);
+    QVERIFY(m_own->openPath(createFile(u"a.md"_s, "text\n")));
+    QCOMPARE(said(), u"No headings"_s);
+    QVERIFY(m_own->openPath(createFile(u"e.csv"_s, QByteArray())));
+    QCOMPARE(said(), u"No columns"_s);
+}
+
+void tst_WorkbenchTools::previewsAreMadeOncePerPicture()
+{
+    QImage image(40, 20, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QVERIFY(image.save(path(u"p.png"_s)));
+    QVERIFY(m_own->openPath(path(u"p.png"_s)));
+    const qint64 before = command(u"filter_invert"_s)->icon().cacheKey();
+    shown<PictureDocument>()->zoomIn();
+    QCOMPARE(command(u"filter_invert"_s)->icon().cacheKey(), before);
+    shown<PictureDocument>()->rotate(1);
+    QVERIFY(command(u"filter_invert"_s)->icon().cacheKey() != before);
+    shown<PictureDocument>()->undo();
+}
+
 void tst_WorkbenchTools::searchesInATextRoundAndRound()
 {
     QVERIFY(m_own->openPath(createFile(u"a.txt"_s, "one two one\n")));
@@ -217,21 +403,17 @@ void tst_WorkbenchTools::aFileThatOthersChangedIsOnlyReplacedWhenTheUserSaysSo()
 {
     QVERIFY(m_own->openPath(createFile(u"a.txt"_s, "mine\n")));
     shown<TextDocument>()->editor()->insertPlainText(u"still "_s);
-    const auto bytes = [this] {
-        QFile file(path(u"a.txt"_s));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    };
     createFile(u"a.txt"_s, "of others\n");
     ModalScript script;
     script.answer(QMessageBox::Cancel);
     QVERIFY(!m_own->tabs()->saveCurrent());
     QVERIFY(script.isDone());
-    QCOMPARE(bytes(), QByteArray("of others\n"));
+    QCOMPARE(bytesOf(u"a.txt"_s), QByteArray("of others\n"));
     QVERIFY(shown<TextDocument>()->isModified());
     script.answer(u"Save Anyway"_s);
     QVERIFY(m_own->tabs()->saveCurrent());
     QVERIFY(script.isDone());
-    QCOMPARE(bytes(), QByteArray("still mine\n"));
+    QCOMPARE(bytesOf(u"a.txt"_s), QByteArray("still mine\n"));
 }
 
 QTEST_MAIN(tst_WorkbenchTools)

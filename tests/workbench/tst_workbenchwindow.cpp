@@ -283,6 +283,11 @@ void tst_WorkbenchWindow::fullScreenComesAndGoes()
     QTRY_VERIFY(window()->isFullScreen());
     action(u"fullScreen"_s)->trigger();
     QTRY_VERIFY(!window()->isFullScreen());
+    // Others can do it, too.
+    window()->showFullScreen();
+    QTRY_VERIFY(action(u"fullScreen"_s)->isChecked());
+    window()->showNormal();
+    QTRY_VERIFY(!action(u"fullScreen"_s)->isChecked());
 }
 
 void tst_WorkbenchWindow::allThatTakesTheFocusHasAName()

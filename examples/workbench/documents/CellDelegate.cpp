@@ -26,6 +26,12 @@ QString textOf(const QPlainTextEdit *editor)
 
 } // namespace
 
+void CellDelegate::finish(QWidget *editor)
+{
+    Q_EMIT commitData(editor);
+    Q_EMIT closeEditor(editor);
+}
+
 QWidget *CellDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                                     const QModelIndex &index) const
 {
@@ -35,11 +41,14 @@ QWidget *CellDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
         auto *editor = new QPlainTextEdit(parent);
         editor->setAccessibleName(tr("Cell"));
         editor->setTabChangesFocus(true);
+        connect(editor, &QPlainTextEdit::modificationChanged, this,
+                [this, editor] { Q_EMIT edited(editor); });
         return editor;
     }
     auto *editor = new QLineEdit(parent);
     editor->setAccessibleName(tr("Cell"));
     editor->setFrame(false);
+    connect(editor, &QLineEdit::textEdited, this, [this, editor] { Q_EMIT edited(editor); });
     return editor;
 }
 

@@ -13,6 +13,9 @@ class CellDelegate : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
+    /// Takes over what is in \a editor, and closes it.
+    void finish(QWidget *editor);
+
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                           const QModelIndex &index) const override;
     void setEditorData(QWidget *editor, const QModelIndex &index) const override;
@@ -23,4 +26,8 @@ public:
 
     /// Line ends as a sign of their own, so that a row has one line.
     QString displayText(const QVariant &value, const QLocale &locale) const override;
+
+Q_SIGNALS:
+    /// Someone typed into \a editor.
+    void edited(QWidget *editor) const;
 };

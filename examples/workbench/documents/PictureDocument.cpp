@@ -27,9 +27,9 @@ constexpr qint64 Undo_Steps = 50;
 /// As many as the memory has room for, but always a few.
 int undoLimit(const QImage &image)
 {
-    constexpr qint64 BytesPerPixel = 4;
-    const qint64 bytes = std::max(qint64(image.width()) * image.height() * BytesPerPixel,
-                                  qint64(1));
+    // What filters make has 32 bits a pixel.
+    const qint64 bytes = std::max(qint64(image.width()) * image.height() * 4,
+                                  qint64(image.sizeInBytes()));
     return int(std::clamp(Undo_Memory / bytes, qint64(3), Undo_Steps));
 }
 
@@ -49,6 +49,8 @@ PictureDocument::PictureDocument(const QString &path, const PictureFile &file)
     setFocusProxy(m_view);
     connect(m_view, &PictureView::imageChanged, this, &PictureDocument::signalContentChanged);
     connect(m_view, &PictureView::zoomChanged, this, &PictureDocument::signalContentChanged);
+    connect(m_undoStack, &QUndoStack::canUndoChanged, this, &PictureDocument::signalHistoryChanged);
+    connect(m_undoStack, &QUndoStack::canRedoChanged, this, &PictureDocument::signalHistoryChanged);
     connect(m_undoStack, &QUndoStack::cleanChanged, this,
             [this](bool isClean) { Q_EMIT signalModifiedChanged(!isClean); });
 }
@@ -115,6 +117,23 @@ void PictureDocument::applyFilter(const QString &id)
     Q_EMIT signalMessage(tr("%1: %2").arg(QFileInfo(path()).fileName(), name));
 }
 
+void PictureDocument::setPath(const QString &path)
+{
+    FileDocument::setPath(path);
+    m_file.setPath(path);
+    m_view->setAccessibleName(QFileInfo(path).fileName());
+}
+
+bool PictureDocument::canUndo() const
+{
+    return m_undoStack->canUndo();
+}
+
+bool PictureDocument::canRedo() const
+{
+    return m_undoStack->canRedo();
+}
+
 void PictureDocument::undo()
 {
     m_undoStack->undo();
@@ -163,8 +182,8 @@ QList<QPair<QString, QString>> PictureDocument::properties() const
 
 FileStatus PictureDocument::write(Loss loss)
 {
-    Q_UNUSED(loss)
-    const FileStatus status = m_file.save(image());
+    const FileStatus status = m_file.save(
+        image(), loss == Loss::Accepted ? PictureFile::Loss::Accepted : PictureFile::Loss::Refused);
     if (status.ok()) {
         m_undoStack->setClean();
         Q_EMIT signalContentChanged();

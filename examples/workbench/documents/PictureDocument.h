@@ -37,9 +37,12 @@ public:
     void rotate(int quarterTurns);
     /// One of PictureFilters; others are ignored.
     void applyFilter(const QString &id);
-    void undo();
-    void redo();
 
+    void setPath(const QString &path) override;
+    bool canUndo() const override;
+    bool canRedo() const override;
+    void undo() override;
+    void redo() override;
     bool isModified() const override;
     bool isChangedOnDisk() const override;
     /// A picture has none.

@@ -8,6 +8,7 @@
 #include "TableModel.h"
 #include "TableSorter.h"
 
+#include <QAction>
 #include <QClipboard>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -75,7 +76,7 @@ QString lineEndName(const QString &lineEnd)
 TableDocument::TableDocument(const QString &path, const TableFile &file)
     : FileDocument(Table, path), m_file(file), m_undoStack(new QUndoStack(this)),
       m_model(new TableModel(file.rows(), file.separator(), m_undoStack, this)),
-      m_view(new QTableView(this))
+      m_view(new QTableView(this)), m_delegate(new CellDelegate(m_view))
 {
     m_undoStack->setUndoLimit(Undo_Steps);
     m_model->setHeaderRow(looksLikeHeader(file.rows()));
@@ -84,13 +85,17 @@ TableDocument::TableDocument(const QString &path, const TableFile &file)
     layout->setContentsMargins({});
     layout->addWidget(m_view);
     setFocusProxy(m_view);
+    createKeys();
     connectModel();
 }
 
 TableDocument::~TableDocument()
 {
-    // It would tell of its end when this is no document any more.
+    // They would tell of their end when this is no document any more.
     m_undoStack->disconnect(this);
+    const QList<QWidget *> editors = m_view->viewport()->findChildren<QWidget *>();
+    for (QWidget *editor : editors)
+        editor->disconnect(this);
 }
 
 void TableDocument::createView()
@@ -98,7 +103,7 @@ void TableDocument::createView()
     m_view->setObjectName(u"table"_s);
     m_view->setAccessibleName(QFileInfo(path()).fileName());
     m_view->setFrameShape(QFrame::NoFrame);
-    m_view->setItemDelegate(new CellDelegate(m_view));
+    m_view->setItemDelegate(m_delegate);
     m_view->setWordWrap(false);
     m_view->setModel(m_model);
     m_view->horizontalHeader()->setResizeContentsPrecision(Width_Rows);
@@ -110,14 +115,50 @@ void TableDocument::createView()
     m_view->setCurrentIndex(m_model->index(0, 0));
 }
 
+/// A view itself knows only one of them, and that for a single cell.
+void TableDocument::createKeys()
+{
+    const auto add = [this](QKeySequence::StandardKey keys, const auto &react) {
+        auto *action = new QAction(m_view);
+        action->setShortcuts(keys);
+        // Not while a cell is edited: the keys belong to its editor then.
+        action->setShortcutContext(Qt::WidgetShortcut);
+        connect(action, &QAction::triggered, this, react);
+        m_view->addAction(action);
+    };
+    add(QKeySequence::Copy, &TableDocument::copy);
+    add(QKeySequence::Cut, &TableDocument::cut);
+    add(QKeySequence::Paste, &TableDocument::paste);
+    add(QKeySequence::Delete, &TableDocument::clear);
+}
+
 void TableDocument::connectModel()
 {
+    connect(m_delegate, &CellDelegate::edited, this, &TableDocument::followInput);
+    connect(m_undoStack, &QUndoStack::canUndoChanged, this, &TableDocument::signalHistoryChanged);
+    connect(m_undoStack, &QUndoStack::canRedoChanged, this, &TableDocument::signalHistoryChanged);
     connect(m_model, &TableModel::modelAboutToBeReset, this, &TableDocument::keepCurrentCell);
     connect(m_model, &TableModel::modelReset, this, &TableDocument::restoreCurrentCell);
     connect(m_model, &TableModel::modelReset, this, &TableDocument::signalContentChanged);
     connect(m_undoStack, &QUndoStack::indexChanged, this, &TableDocument::signalContentChanged);
     connect(m_undoStack, &QUndoStack::cleanChanged, this,
-            [this](bool isClean) { Q_EMIT signalModifiedChanged(!isClean); });
+            [this] { Q_EMIT signalModifiedChanged(isModified()); });
+}
+
+void TableDocument::followInput(QWidget *editor)
+{
+    if (editor == m_editedCell)
+        return;
+    m_editedCell = editor;
+    const auto tell = [this] { Q_EMIT signalModifiedChanged(isModified()); };
+    connect(editor, &QObject::destroyed, this, tell);
+    tell();
+}
+
+void TableDocument::finishInput()
+{
+    if (QWidget *editor = std::exchange(m_editedCell, nullptr))
+        m_delegate->finish(editor);
 }
 
 void TableDocument::keepCurrentCell()
@@ -251,6 +292,23 @@ void TableDocument::sort(int column, Qt::SortOrder order)
     m_undoStack->push(new TableCommand(m_model, rows, tr("Sort")));
 }
 
+void TableDocument::setPath(const QString &path)
+{
+    FileDocument::setPath(path);
+    m_file.setPath(path);
+    m_view->setAccessibleName(QFileInfo(path).fileName());
+}
+
+bool TableDocument::canUndo() const
+{
+    return m_undoStack->canUndo();
+}
+
+bool TableDocument::canRedo() const
+{
+    return m_undoStack->canRedo();
+}
+
 void TableDocument::undo()
 {
     m_undoStack->undo();
@@ -287,33 +345,40 @@ void TableDocument::paste()
 {
     const QModelIndex start = m_view->currentIndex();
     const QList<CsvRow> lines = CsvText::parse(QGuiApplication::clipboard()->text(), u'\t');
-    if (!start.isValid() || lines.isEmpty())
+    if (lines.isEmpty())
         return;
-    m_undoStack->beginMacro(tr("Paste"));
-    for (qsizetype row = 0; row < lines.size(); ++row) {
-        const QStringList &cells = lines.at(row).cells;
-        for (qsizetype column = 0; column < cells.size(); ++column)
-            m_model->setData(start.siblingAtRow(start.row() + int(row))
-                                 .siblingAtColumn(start.column() + int(column)),
-                             CsvText::value(cells.at(column)));
+    QList<CsvRow> rows = m_model->fileRows();
+    // A table without cells begins at the first.
+    const qsizetype first = std::min(qsizetype(m_model->fileRow(std::max(0, start.row()))),
+                                     rows.size());
+    for (qsizetype line = 0; line < lines.size(); ++line) {
+        if (first + line == rows.size())
+            rows.append(CsvRow());
+        QStringList values = lines.at(line).cells;
+        std::transform(values.begin(), values.end(), values.begin(), CsvText::value);
+        m_model->setCells(&rows[first + line].cells, std::max(0, start.column()), values);
     }
-    m_undoStack->endMacro();
+    m_undoStack->push(new TableCommand(m_model, rows, tr("Paste")));
 }
 
 void TableDocument::clear()
 {
-    const QModelIndexList indexes = m_view->selectionModel()->selectedIndexes();
+    QModelIndexList indexes = m_view->selectionModel()->selectedIndexes();
+    if (indexes.isEmpty())
+        indexes.append(m_view->currentIndex());
+    indexes.removeIf([](const QModelIndex &index) { return index.data().toString().isEmpty(); });
+    // Without a step, nothing is modified.
     if (indexes.isEmpty())
         return;
     m_undoStack->beginMacro(tr("Clear"));
-    for (const QModelIndex &index : indexes)
+    for (const QModelIndex &index : std::as_const(indexes))
         m_model->setData(index, QString());
     m_undoStack->endMacro();
 }
 
 bool TableDocument::isModified() const
 {
-    return !m_undoStack->isClean();
+    return m_editedCell != nullptr || !m_undoStack->isClean();
 }
 
 bool TableDocument::isChangedOnDisk() const
@@ -374,5 +439,12 @@ FileStatus TableDocument::write(Loss loss)
 
 FileStatus TableDocument::writeCopy(const QString &path)
 {
-    return m_file.saveCopy(path, m_model->fileRows());
+    FileStatus status = m_file.saveCopy(path, m_model->fileRows());
+    if (status.error == FileStatus::Error::NotEncodable) {
+        // A new file may have the encoding that it needs.
+        TableFile copy = m_file;
+        copy.setEncoding(TextCodec::Encoding::Utf8);
+        status = copy.saveCopy(path, m_model->fileRows());
+    }
+    return status;
 }

@@ -6,9 +6,12 @@
 #include "FileDocument.h"
 #include "TableFile.h"
 
-class TableModel;
+#include <QPointer>
+
+class CellDelegate;
 class QTableView;
 class QUndoStack;
+class TableModel;
 
 /// A table to edit.
 class TableDocument : public FileDocument
@@ -40,17 +43,21 @@ public:
     void sort(Qt::SortOrder order);
     /// A \a column that is none is ignored.
     void sort(int column, Qt::SortOrder order);
-    void undo();
-    void redo();
 
-    /// The selected cells as lines with tabulators.
+    /// The selected cells, or the current one, as lines with tabulators.
     void copy() const;
     void cut();
-    /// From the current cell on, as far as there are rows and columns.
+    /// From the current cell on; the table grows where it is too small.
     void paste();
-    /// Empties the selected cells.
+    /// Empties the selected cells, or the current one.
     void clear();
 
+    void setPath(const QString &path) override;
+    bool canUndo() const override;
+    bool canRedo() const override;
+    void undo() override;
+    void redo() override;
+    /// Also while a cell is being typed into.
     bool isModified() const override;
     bool isChangedOnDisk() const override;
     /// The columns.
@@ -59,12 +66,15 @@ public:
     QList<QPair<QString, QString>> properties() const override;
 
 protected:
+    void finishInput() override;
     FileStatus write(Loss loss) override;
     FileStatus writeCopy(const QString &path) override;
 
 private:
     void createView();
+    void createKeys();
     void connectModel();
+    void followInput(QWidget *editor);
     void keepCurrentCell();
     void restoreCurrentCell();
     void setCurrentCell(int row, int column);
@@ -75,6 +85,9 @@ private:
     QUndoStack *m_undoStack;
     TableModel *m_model;
     QTableView *m_view;
+    CellDelegate *m_delegate;
+    /// In which someone typed something that is not in the table yet.
+    QPointer<QWidget> m_editedCell;
     /// While all cells are other ones.
     QPoint m_keptCell;
 };

@@ -27,6 +27,8 @@ public:
     FileStatus saveCopy(const QString &path, const QList<CsvRow> &rows) const;
 
     bool isChangedOnDisk() const;
+    /// Follows the file to another \a path.
+    void setPath(const QString &path) { m_path = path; }
 
     /// As they were loaded.
     QList<CsvRow> rows() const { return m_rows; }

@@ -61,12 +61,20 @@ bool TableModel::setData(const QModelIndex &index, const QVariant &value, int ro
         return true;
     const int line = fileRow(index.row());
     QStringList cells = m_rows.at(line).cells;
-    while (cells.size() <= index.column())
-        cells.append(QString());
-    QString &cell = cells[index.column()];
-    cell = CsvText::cell(text, m_separator, CsvText::isQuoted(cell));
+    setCells(&cells, index.column(), {text});
     m_undoStack->push(new CellsCommand(this, line, cells));
     return true;
+}
+
+void TableModel::setCells(QStringList *cells, int column, const QStringList &values) const
+{
+    while (cells->size() < column + values.size())
+        cells->append(QString());
+    for (qsizetype i = 0; i < values.size(); ++i) {
+        QString &cell = (*cells)[column + i];
+        if (CsvText::value(cell) != values.at(i))
+            cell = CsvText::cell(values.at(i), m_separator, CsvText::isQuoted(cell));
+    }
 }
 
 QVariant TableModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -30,7 +30,9 @@ public:
     /// The line of the file that \a row is.
     int fileRow(int row) const { return row + (m_hasHeader ? 1 : 0); }
 
-    QChar separator() const { return m_separator; }
+    /// Replaces \a cells from \a column on by those of \a values, written as this table writes
+    /// them. What says the same already stays as it is.
+    void setCells(QStringList *cells, int column, const QStringList &values) const;
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;

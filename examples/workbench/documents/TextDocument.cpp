@@ -64,6 +64,8 @@ TextDocument::TextDocument(const QString &path, const TextFile &file)
     m_contentTimer.setInterval(Content_Delay);
     connect(&m_contentTimer, &QTimer::timeout, this, &TextDocument::signalContentChanged);
     connect(m_editor, &QPlainTextEdit::textChanged, &m_contentTimer, qOverload<>(&QTimer::start));
+    connect(m_editor, &QPlainTextEdit::undoAvailable, this, &TextDocument::signalHistoryChanged);
+    connect(m_editor, &QPlainTextEdit::redoAvailable, this, &TextDocument::signalHistoryChanged);
     connect(m_editor, &QPlainTextEdit::modificationChanged, this,
             &TextDocument::signalModifiedChanged);
 }
@@ -84,6 +86,33 @@ void TextDocument::createEditor()
 QString TextDocument::text() const
 {
     return m_editor->document()->toRawText().replace(QChar::ParagraphSeparator, u'\n');
+}
+
+void TextDocument::setPath(const QString &path)
+{
+    FileDocument::setPath(path);
+    m_file.setPath(path);
+    m_editor->setAccessibleName(QFileInfo(path).fileName());
+}
+
+bool TextDocument::canUndo() const
+{
+    return m_editor->document()->isUndoAvailable();
+}
+
+bool TextDocument::canRedo() const
+{
+    return m_editor->document()->isRedoAvailable();
+}
+
+void TextDocument::undo()
+{
+    m_editor->undo();
+}
+
+void TextDocument::redo()
+{
+    m_editor->redo();
 }
 
 bool TextDocument::isModified() const
@@ -162,5 +191,12 @@ FileStatus TextDocument::write(Loss loss)
 
 FileStatus TextDocument::writeCopy(const QString &path)
 {
-    return m_file.saveCopy(path, text());
+    FileStatus status = m_file.saveCopy(path, text());
+    if (status.error == FileStatus::Error::NotEncodable) {
+        // A new file may have the encoding that it needs.
+        TextFile copy = m_file;
+        copy.setEncoding(TextCodec::Encoding::Utf8);
+        status = copy.saveCopy(path, text());
+    }
+    return status;
 }

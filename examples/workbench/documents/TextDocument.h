@@ -28,6 +28,11 @@ public:
     /// Whether the text has headings.
     bool isMarkdown() const { return m_isMarkdown; }
 
+    void setPath(const QString &path) override;
+    bool canUndo() const override;
+    bool canRedo() const override;
+    void undo() override;
+    void redo() override;
     bool isModified() const override;
     bool isChangedOnDisk() const override;
     QList<OutlineEntry> outline() const override;
