@@ -10,12 +10,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int NameColumn_Width = 110;
-
-} // namespace
-
 PropertyList::PropertyList(QWidget *parent) : QTreeWidget(parent)
 {
     setObjectName(u"properties"_s);
@@ -24,7 +18,8 @@ PropertyList::PropertyList(QWidget *parent) : QTreeWidget(parent)
     setAccessibleName(windowTitle());
     setFrameShape(QFrame::NoFrame);
     setHeaderLabels({tr("Name"), tr("Value")});
-    header()->resizeSection(0, NameColumn_Width);
+    // The values get what is left: they are the longer ones.
+    header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     setRootIsDecorated(false);
     setUniformRowHeights(true);
 }

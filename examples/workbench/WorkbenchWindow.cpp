@@ -57,6 +57,7 @@ namespace {
 enum Column { NameColumn, SizeColumn, TypeColumn, DateColumn };
 
 constexpr QSize Window_Size(1100, 720);
+constexpr int SizeColumn_Width = 84;
 constexpr QSize HelpButton_Size(24, 22);
 
 RibbonPage *addPage(RibbonBar *bar, const QString &name, const QString &title,
@@ -76,7 +77,7 @@ QString outlineHint(const WorkbenchDocument *document)
     case WorkbenchDocument::Text:
         return WorkbenchWindow::tr("No headings");
     case WorkbenchDocument::Picture:
-        return WorkbenchWindow::tr("Pictures have no outline");
+        return WorkbenchWindow::tr("No outline");
     case WorkbenchDocument::Table:
         return WorkbenchWindow::tr("No columns");
     }
@@ -183,9 +184,11 @@ void WorkbenchWindow::createTree()
     m_tree->setWindowTitle(tr("Folder"));
     m_tree->setWindowIcon(QIcon(u":/workbench/folders.svg"_s));
     m_tree->setFrameShape(QFrame::NoFrame);
-    // A side is narrow: there is room for names and sizes.
+    // A side is narrow: there is room for names and sizes, and for names in any case.
     for (const int column : {TypeColumn, DateColumn})
         m_tree->hideColumn(column);
+    m_tree->header()->setMinimumSectionSize(SizeColumn_Width);
+    m_tree->header()->resizeSection(SizeColumn, SizeColumn_Width);
     m_tree->header()->setStretchLastSection(false);
     m_tree->header()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
     const QStringList suffixes = FileKinds::suffixes();

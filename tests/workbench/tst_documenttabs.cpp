@@ -44,6 +44,7 @@ private Q_SLOTS:
     void closingTheWindowAsks();
     void theQuestionShowsItsDocument();
     void theWindowMayGoDuringTheQuestion();
+    void theWindowMayGoWhileAllAreSaved();
     void closedDocumentsAreDeleted();
     void outlineAndPropertiesFollow();
     void namesAreShownAsTheyAre();
@@ -358,6 +359,21 @@ void tst_DocumentTabs::theWindowMayGoDuringTheQuestion()
     });
     own->tabs()->closeCurrent();
     QVERIFY(wasAsked);
+    QVERIFY(!own);
+}
+
+void tst_DocumentTabs::theWindowMayGoWhileAllAreSaved()
+{
+    auto own = std::make_unique<WorkbenchWindow>(QString(), &WorkbenchFixture::load);
+    own->show();
+    for (const auto &name : {u"t0"_s, u"t1"_s}) {
+        QVERIFY(own->tabs()->open(createFile(name)));
+        auto *document = qobject_cast<ScriptedDocument *>(own->tabs()->current());
+        document->setModified(true);
+        document->setFailure(u"No."_s);
+    }
+    QTimer::singleShot(0, this, [&own] { own.reset(); });
+    own->tabs()->saveAll();
     QVERIFY(!own);
 }
 

@@ -21,7 +21,9 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QSignalSpy>
 #include <QTableView>
+#include <QTextBlock>
 #include <QToolTip>
 #include <QTreeView>
 #include <QTreeWidget>
@@ -47,6 +49,7 @@ private Q_SLOTS:
     void aFileThatIsRenamedInTheTreeStaysOpen();
     void aFolderThatIsRenamedInTheTreeTakesItsFilesAlong();
     void theOutlineSaysWhyItIsEmpty();
+    void theOutlineStaysWhileItsHeadingsDo();
     void previewsAreMadeOncePerPicture();
     void searchesInATextRoundAndRound();
     void searchesInATable();
@@ -336,11 +339,31 @@ void tst_WorkbenchTools::theOutlineSaysWhyItIsEmpty()
     QImage image(40, 20, QImage::Format_RGB32);
     QVERIFY(image.save(path(u"p.png"_s)));
     QVERIFY(m_own->openPath(path(u"p.png"_s)));
-    QCOMPARE(said(), u"Pictures have no outline"_s);
+    QCOMPARE(said(), u"No outline"_s);
     QVERIFY(m_own->openPath(createFile(u"a.md"_s, "text\n")));
     QCOMPARE(said(), u"No headings"_s);
     QVERIFY(m_own->openPath(createFile(u"e.csv"_s, QByteArray())));
     QCOMPARE(said(), u"No columns"_s);
+}
+
+void tst_WorkbenchTools::theOutlineStaysWhileItsHeadingsDo()
+{
+    QVERIFY(m_own->openPath(createFile(u"a.md"_s, "# one\n\n## two\n")));
+    auto *outline = m_own->findChild<QTreeWidget *>(u"outline"_s);
+    outline->topLevelItem(0)->setExpanded(false);
+    QPlainTextEdit *editor = shown<TextDocument>()->editor();
+    QSignalSpy spy(shown<TextDocument>(), &WorkbenchDocument::signalContentChanged);
+    editor->insertPlainText(u"text\n\n"_s);
+    QTRY_VERIFY(!spy.isEmpty());
+    QVERIFY(!outline->topLevelItem(0)->isExpanded());
+    // But they lead to where the headings are now.
+    Q_EMIT outline->itemActivated(outline->topLevelItem(0)->child(0), 0);
+    QCOMPARE(editor->textCursor().block().text(), u"## two"_s);
+    spy.clear();
+    editor->insertPlainText(u"# "_s);
+    QTRY_VERIFY(!spy.isEmpty());
+    QCOMPARE(outline->topLevelItemCount(), 2);
+    editor->document()->setModified(false);
 }
 
 void tst_WorkbenchTools::previewsAreMadeOncePerPicture()

@@ -25,6 +25,7 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <QSplitter>
 #include <QStatusBar>
 #include <QToolButton>
 #include <QTreeView>
@@ -39,6 +40,7 @@ class tst_WorkbenchWindow final : public WorkbenchFixture
 
 private Q_SLOTS:
     void aFolderIsShownInBarAndTree();
+    void namesCanBeReadInANarrowTree();
     void aFileIsOpenedInItsFolder();
     void whatIsMissingChangesNothing();
     void aDoubleClickOpensAFile();
@@ -100,6 +102,22 @@ void tst_WorkbenchWindow::aFolderIsShownInBarAndTree()
                 ->isAncestorOf(tree()));
     const auto *model = qobject_cast<QFileSystemModel *>(tree()->model());
     QTRY_COMPARE(model->filePath(tree()->rootIndex()), bar->path());
+}
+
+void tst_WorkbenchWindow::namesCanBeReadInANarrowTree()
+{
+    const QString name = u"somewhat.txt"_s;
+    createFile(name);
+    auto *splitter = qobject_cast<QSplitter *>(window()
+                                                   ->agent()
+                                                   ->dockContainer()
+                                                   ->panelWidget(DockContainer::Left)
+                                                   ->stackedWidget()
+                                                   ->parentWidget());
+    QVERIFY(splitter);
+    splitter->setSizes({120, 400, 200});
+    QTRY_VERIFY(tree()->viewport()->width() < 170);
+    QVERIFY(tree()->columnWidth(0) >= 80);
 }
 
 void tst_WorkbenchWindow::aFileIsOpenedInItsFolder()

@@ -30,6 +30,10 @@ namespace {
 constexpr int Width_Rows = 200;
 /// In px. A longer text is cut.
 constexpr int Width_Maximum = 320;
+/// In px. Numbers that grow with the rows have room here.
+constexpr int Width_Minimum = 64;
+/// In px.
+constexpr int Row_Height = 24;
 constexpr int Undo_Steps = 200;
 
 /// Whether the first of \a rows looks like the names of the columns: all there, all different, and
@@ -108,9 +112,12 @@ void TableDocument::createView()
     m_view->setModel(m_model);
     m_view->horizontalHeader()->setResizeContentsPrecision(Width_Rows);
     m_view->horizontalHeader()->setMaximumSectionSize(Width_Maximum);
+    m_view->horizontalHeader()->setMinimumSectionSize(Width_Minimum);
     m_view->resizeColumnsToContents();
-    // Narrower again, the user may make them as wide as they like.
+    // From here on, the user may make them as wide and as narrow as they like.
     m_view->horizontalHeader()->setMaximumSectionSize(-1);
+    m_view->horizontalHeader()->setMinimumSectionSize(-1);
+    m_view->verticalHeader()->setDefaultSectionSize(Row_Height);
     m_view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_view->setCurrentIndex(m_model->index(0, 0));
 }
