@@ -59,22 +59,32 @@ inline double seconds(const std::function<void()> &work)
     return double(timer.nsecsElapsed()) / NanosecondsPerSecond;
 }
 
-/// Measures \a ours and \a baseline in turn, after \a prepare each time. The counter "ratio" is that
-/// of the two medians.
-inline void sideBySide(benchmark::State &state, const std::function<void()> &prepare,
-                       const std::function<void()> &ours, const std::function<void()> &baseline)
+/// Measures \a ours and \a baseline in turn, after \a prepare each time. Both return the seconds that
+/// they took. The counter "ratio" is that of the two medians.
+inline void timesSideBySide(benchmark::State &state, const std::function<void()> &prepare,
+                            const std::function<double()> &ours,
+                            const std::function<double()> &baseline)
 {
     std::vector<double> own;
     std::vector<double> other;
     for (auto _ : state) {
         prepare();
-        other.push_back(seconds(baseline));
+        other.push_back(baseline());
         prepare();
-        own.push_back(seconds(ours));
+        own.push_back(ours());
         state.SetIterationTime(own.back());
     }
     constexpr double MillisecondsPerSecond = 1000;
     state.counters["median_ms"] = median(own) * MillisecondsPerSecond;
     state.counters["baseline_ms"] = median(other) * MillisecondsPerSecond;
     state.counters["ratio"] = median(own) / median(other);
+}
+
+/// The same for what is measured from its begin to its end.
+inline void sideBySide(benchmark::State &state, const std::function<void()> &prepare,
+                       const std::function<void()> &ours, const std::function<void()> &baseline)
+{
+    timesSideBySide(
+        state, prepare, [&ours] { return seconds(ours); },
+        [&baseline] { return seconds(baseline); });
 }

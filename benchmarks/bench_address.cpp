@@ -7,20 +7,19 @@
 // The files lie below the folder in TMPDIR, which should be on a real disk.
 
 #include "BenchmarkSupport.h"
+#include "PlainWindows.h"
 
 #include <VornFrame/AddressBar.h>
 
-#include <QAction>
-#include <QApplication>
 #include <QClipboard>
 #include <QDir>
 #include <QFile>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
 #include <QProcess>
 #include <QRandomGenerator>
-#include <QStyle>
 #include <QTemporaryDir>
 #include <QTreeView>
 #include <QUrl>
@@ -157,14 +156,7 @@ void enterFolderOfManyFolders(benchmark::State &state)
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     };
     sideBySide(
-        state, leave, [&] { bar.setPath(folder); },
-        [&] {
-            const QIcon icon = QApplication::style()->standardIcon(QStyle::SP_DirIcon);
-            const QStringList names = QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot,
-                                                             QDir::Name);
-            for (const QString &name : names)
-                menu->addAction(icon, name);
-        });
+        state, leave, [&] { bar.setPath(folder); }, [&] { addFolders(menu.get(), folder); });
 }
 BENCHMARK(enterFolderOfManyFolders)->Apply(timed)->Iterations(9);
 

@@ -7,23 +7,21 @@
 // --benchmark_format=json for figures that a program can read.
 
 #include "BenchmarkSupport.h"
+#include "PlainWindows.h"
 
 #include <VornFrame/DockContainer.h>
 #include <VornFrame/DockContentWidget.h>
 #include <VornFrame/DockPanelWidget.h>
 
-#include <QApplication>
 #include <QDockWidget>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QMainWindow>
 #include <QPushButton>
-#include <QStyle>
 #include <QTabWidget>
 
 #include <benchmark/benchmark.h>
 
-#include <array>
 #include <memory>
 #include <utility>
 
@@ -32,48 +30,8 @@ using namespace VornFrame;
 
 namespace {
 
-constexpr int ViewsPerSide = 4;
 constexpr int FewTabs = 40;
 constexpr int ManyTabs = 200;
-constexpr QSize WindowSize(1400, 800);
-
-constexpr int Sides = 3;
-constexpr std::array<Qt::DockWidgetArea, Sides> PlainAreas{
-    Qt::LeftDockWidgetArea, Qt::RightDockWidgetArea, Qt::BottomDockWidgetArea};
-
-QString viewName(int side, int view)
-{
-    return u"View %1"_s.arg(side * ViewsPerSide + view);
-}
-
-QString tabName(int tab)
-{
-    return u"Document %1"_s.arg(tab);
-}
-
-std::unique_ptr<QMainWindow> createPlainWindow(int tabs)
-{
-    auto window = std::make_unique<QMainWindow>();
-    for (int side = 0; side < Sides; ++side) {
-        QDockWidget *first = nullptr;
-        for (int view = 0; view < ViewsPerSide; ++view) {
-            auto *dock = new QDockWidget(viewName(side, view), window.get());
-            dock->setObjectName(viewName(side, view));
-            dock->setWidget(new QLabel(viewName(side, view)));
-            window->addDockWidget(PlainAreas[std::size_t(side)], dock);
-            if (first)
-                window->tabifyDockWidget(first, dock);
-            else
-                first = dock;
-        }
-    }
-    auto *content = new QTabWidget;
-    for (int tab = 0; tab < tabs; ++tab)
-        content->addTab(new QLabel(tabName(tab)), tabName(tab));
-    window->setCentralWidget(content);
-    window->resize(WindowSize);
-    return window;
-}
 
 std::unique_ptr<QMainWindow> createDockWindow(int tabs)
 {
@@ -82,7 +40,7 @@ std::unique_ptr<QMainWindow> createDockWindow(int tabs)
     auto *container = new DockContainer(window.get());
     window->setCentralWidget(container);
     container->setupMainWindow(window.get());
-    const QIcon icon = QApplication::style()->standardIcon(QStyle::SP_FileIcon);
+    const QIcon icon = fileIcon();
     for (int side = 0; side < Sides; ++side) {
         DockPanelWidget *panel = container->panelWidget(DockContainer::DockArea(side));
         for (int view = 0; view < ViewsPerSide; ++view)
@@ -148,7 +106,7 @@ void repeat(benchmark::State &state, QMainWindow *window, Step step)
 
 void plainRestore(benchmark::State &state)
 {
-    const std::unique_ptr<QMainWindow> window = createPlainWindow(int(state.range(0)));
+    const std::unique_ptr<QMainWindow> window = createPlainDockWindow(int(state.range(0)));
     repeat(state, window.get(), [&window](int) { window->restoreState(window->saveState()); });
 }
 
@@ -162,7 +120,7 @@ void dockRestore(benchmark::State &state)
 
 void plainSwitchTab(benchmark::State &state)
 {
-    const std::unique_ptr<QMainWindow> window = createPlainWindow(FewTabs);
+    const std::unique_ptr<QMainWindow> window = createPlainDockWindow(FewTabs);
     auto *content = qobject_cast<QTabWidget *>(window->centralWidget());
     repeat(state, window.get(), [content](int turn) { content->setCurrentIndex(turn % 8); });
 }
@@ -183,7 +141,7 @@ void dockSwitchSection(benchmark::State &state)
 
 void plainHideAndShowSide(benchmark::State &state)
 {
-    const std::unique_ptr<QMainWindow> window = createPlainWindow(FewTabs);
+    const std::unique_ptr<QMainWindow> window = createPlainDockWindow(FewTabs);
     QList<QDockWidget *> left;
     for (int view = 0; view < ViewsPerSide; ++view)
         left.append(window->findChild<QDockWidget *>(viewName(0, view)));
@@ -207,7 +165,7 @@ void timedForFewAndManyTabs(benchmark::internal::Benchmark *benchmark)
     timed(benchmark->Arg(FewTabs)->Arg(ManyTabs));
 }
 
-BENCHMARK(constructToFirstPaint<createPlainWindow>)->Apply(timedForFewAndManyTabs);
+BENCHMARK(constructToFirstPaint<createPlainDockWindow>)->Apply(timedForFewAndManyTabs);
 BENCHMARK(constructToFirstPaint<createDockWindow>)->Apply(timedForFewAndManyTabs);
 BENCHMARK(constructToFirstPaint<createDockWindowOfOneSection>)->Apply(timedForFewAndManyTabs);
 BENCHMARK(plainRestore)->Apply(timedForFewAndManyTabs);

@@ -7,6 +7,7 @@
 // a shown ribbon, below its style sheet; the plain buttons have no sheet, no star and no layout.
 
 #include "BenchmarkSupport.h"
+#include "PlainWindows.h"
 
 #include <VornFrame/RibbonBar.h>
 #include <VornFrame/RibbonGallery.h>
@@ -20,7 +21,6 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -35,30 +35,9 @@ using namespace VornFrame;
 
 namespace {
 
-constexpr int Columns = 6;
-constexpr QSize TileSize(90, 60);
-constexpr QSize WindowSize(700, 150);
-
-/// The actions of a case; one in a hundred has the word "rare" in its text.
-class Actions
-{
-public:
-    explicit Actions(int count)
-    {
-        const QIcon icon = QApplication::style()->standardIcon(QStyle::SP_FileIcon);
-        for (int i = 0; i < count; ++i) {
-            const QString text = i % 100 == 0 ? u"Action %1 rare"_s : u"Action %1"_s;
-            m_actions.append(new QAction(icon, text.arg(i), &m_owner));
-        }
-    }
-
-    int count() const { return int(m_actions.size()); }
-    QAction *at(int index) const { return m_actions.at(index); }
-
-private:
-    QObject m_owner;
-    QList<QAction *> m_actions;
-};
+constexpr int Columns = PlainButtons::Columns;
+constexpr QSize TileSize = PlainButtons::TileSize;
+constexpr QSize BarSize(700, 150);
 
 /// A gallery in a shown ribbon.
 class Gallery
@@ -68,7 +47,7 @@ public:
     {
         m_gallery->setCollectEnabled(true);
         m_bar.addPage(u"Page"_s)->addGroup(u"Group"_s)->addWidget(m_gallery);
-        m_bar.resize(WindowSize);
+        m_bar.resize(BarSize);
         m_bar.show();
         QCoreApplication::processEvents();
     }
@@ -144,53 +123,6 @@ private:
     QPushButton *m_toTop = nullptr;
 };
 
-/// Plain tool buttons in one frame.
-class PlainButtons
-{
-public:
-    PlainButtons() { m_frame.setUpdatesEnabled(false); }
-
-    void fill(const Actions &actions)
-    {
-        for (int i = 0; i < actions.count(); ++i)
-            add(actions.at(i));
-    }
-
-    QToolButton *add(QAction *action)
-    {
-        auto *button = new QToolButton(&m_frame);
-        button->setDefaultAction(action);
-        m_buttons.append(button);
-        return button;
-    }
-
-    void place()
-    {
-        for (int i = 0; i < m_buttons.size(); ++i) {
-            const QPoint cell(i % Columns * TileSize.width(), i / Columns * TileSize.height());
-            m_buttons.at(i)->setGeometry(QRect(cell, TileSize));
-        }
-    }
-
-    void show()
-    {
-        m_frame.show();
-        QCoreApplication::processEvents();
-    }
-
-    void setButtonsVisible(bool visible)
-    {
-        for (QToolButton *button : std::as_const(m_buttons))
-            button->setVisible(visible);
-    }
-
-    QFrame &frame() { return m_frame; }
-
-private:
-    QFrame m_frame;
-    QList<QToolButton *> m_buttons;
-};
-
 /// An open popup and plain buttons that are shown.
 struct OpenedGallery
 {
@@ -240,11 +172,7 @@ void openFirst(benchmark::State &state)
         gallery = std::make_unique<Gallery>();
         gallery->fill(actions, int(state.range(1)));
         QCoreApplication::processEvents();
-        plain = std::make_unique<PlainButtons>();
-        plain->fill(actions);
-        plain->place();
-        plain->frame().setUpdatesEnabled(true);
-        plain->frame().resize(Columns * TileSize.width(), WindowSize.width());
+        plain = createPlainButtonWindow(actions);
         QCoreApplication::processEvents();
     };
     sideBySide(
@@ -262,20 +190,16 @@ void openAgain(benchmark::State &state)
     const Actions actions(int(state.range(0)));
     Gallery gallery;
     gallery.fill(actions, int(state.range(1)));
-    PlainButtons plain;
-    plain.fill(actions);
-    plain.place();
-    plain.frame().setUpdatesEnabled(true);
-    plain.frame().resize(Columns * TileSize.width(), WindowSize.width());
+    const std::unique_ptr<PlainButtons> plain = createPlainButtonWindow(actions);
     const auto prepare = [&] {
         gallery.open();
         gallery.close();
-        plain.show();
-        plain.frame().hide();
+        plain->show();
+        plain->frame().hide();
         QCoreApplication::processEvents();
     };
     sideBySide(
-        state, prepare, [&] { gallery.open(); }, [&] { plain.show(); });
+        state, prepare, [&] { gallery.open(); }, [&] { plain->show(); });
 }
 BENCHMARK(openAgain)
     ->Apply(timed)

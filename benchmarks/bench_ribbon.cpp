@@ -7,6 +7,7 @@
 // machine. Run it with --benchmark_format=json for figures that a program can read.
 
 #include "BenchmarkSupport.h"
+#include "PlainWindows.h"
 
 #include <VornFrame/RibbonBar.h>
 #include <VornFrame/RibbonGroup.h>
@@ -14,14 +15,8 @@
 #include <VornFrame/RibbonSubgroup.h>
 
 #include <QAction>
-#include <QApplication>
 #include <QElapsedTimer>
-#include <QHBoxLayout>
-#include <QPushButton>
-#include <QStyle>
 #include <QTabWidget>
-#include <QToolButton>
-#include <QVBoxLayout>
 
 #include <benchmark/benchmark.h>
 
@@ -32,25 +27,9 @@ using namespace VornFrame;
 
 namespace {
 
-constexpr int GroupsPerPage = 8;
-constexpr int ActionsPerGroup = 10;
-constexpr QSize WindowSize(1400, 800);
-
-/// All names are equally wide, so that no page makes its window wider than another one did.
-QString commandName(int page, int group, int action)
-{
-    const int number = (page * GroupsPerPage + group) * ActionsPerGroup + action;
-    return u"Command %1"_s.arg(number, 4, 10, QLatin1Char('0'));
-}
-
-QIcon commandIcon()
-{
-    return QApplication::style()->standardIcon(QStyle::SP_FileIcon);
-}
-
 void addRibbonPage(RibbonBar *bar, int number, const QIcon &icon)
 {
-    RibbonPage *page = bar->addPage(u"Page %1"_s.arg(number));
+    RibbonPage *page = bar->addPage(pageName(number));
     for (int g = 0; g < GroupsPerPage; ++g) {
         RibbonGroup *group = page->addGroup(u"Group"_s);
         for (int a = 0; a < ActionsPerGroup; ++a)
@@ -61,7 +40,7 @@ void addRibbonPage(RibbonBar *bar, int number, const QIcon &icon)
 /// Four large buttons and two columns of three small ones.
 void addMixedRibbonPage(RibbonBar *bar, int number, const QIcon &icon)
 {
-    RibbonPage *page = bar->addPage(u"Page %1"_s.arg(number));
+    RibbonPage *page = bar->addPage(pageName(number));
     for (int g = 0; g < GroupsPerPage; ++g) {
         RibbonGroup *group = page->addGroup(u"Group"_s);
         RibbonSubgroup *column = nullptr;
@@ -77,37 +56,11 @@ void addMixedRibbonPage(RibbonBar *bar, int number, const QIcon &icon)
     }
 }
 
-void addPlainPage(QTabWidget *tabs, int number, const QIcon &icon)
-{
-    auto *page = new QWidget;
-    auto *layout = new QHBoxLayout(page);
-    for (int g = 0; g < GroupsPerPage; ++g) {
-        for (int a = 0; a < ActionsPerGroup; ++a) {
-            auto *button = new QToolButton(page);
-            button->setText(commandName(number, g, a));
-            button->setIcon(icon);
-            layout->addWidget(button);
-        }
-    }
-    tabs->addTab(page, u"Page %1"_s.arg(number));
-}
-
-/// A window with \a bar or tab widget \a top above an empty rest.
-std::unique_ptr<QWidget> createWindow(QWidget *top)
-{
-    auto window = std::make_unique<QWidget>();
-    auto *layout = new QVBoxLayout(window.get());
-    layout->addWidget(top);
-    layout->addWidget(new QWidget);
-    window->resize(WindowSize);
-    return window;
-}
-
 using AddRibbonPage = void (*)(RibbonBar *, int, const QIcon &);
 
 void fill(RibbonBar *bar, int pages, AddRibbonPage addPage)
 {
-    const QIcon icon = commandIcon();
+    const QIcon icon = fileIcon();
     for (int p = 0; p < pages; ++p)
         addPage(bar, p, icon);
 }
@@ -128,15 +81,6 @@ std::unique_ptr<QWidget> createLatePlacedRibbonWindow(int pages)
     auto *bar = new RibbonBar;
     fill(bar, pages, addRibbonPage);
     return createWindow(bar);
-}
-
-std::unique_ptr<QWidget> createPlainWindow(int pages)
-{
-    auto *tabs = new QTabWidget;
-    const QIcon icon = commandIcon();
-    for (int p = 0; p < pages; ++p)
-        addPlainPage(tabs, p, icon);
-    return createWindow(tabs);
 }
 
 using CreateWindow = std::unique_ptr<QWidget> (*)(int);
@@ -221,7 +165,7 @@ void plainHideTabs(benchmark::State &state)
 
 void plainWindow(benchmark::State &state)
 {
-    constructToFirstPaint(state, createPlainWindow);
+    constructToFirstPaint(state, createPlainPagesWindow);
 }
 
 void ribbonWindow(benchmark::State &state)
@@ -241,7 +185,7 @@ void ribbonWindowMixedForms(benchmark::State &state)
 
 void plainFirstSwitch(benchmark::State &state)
 {
-    firstSwitch<QTabWidget>(state, createPlainWindow);
+    firstSwitch<QTabWidget>(state, createPlainPagesWindow);
 }
 
 void ribbonFirstSwitch(benchmark::State &state)
