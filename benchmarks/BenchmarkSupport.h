@@ -59,8 +59,19 @@ inline double seconds(const std::function<void()> &work)
     return double(timer.nsecsElapsed()) / NanosecondsPerSecond;
 }
 
+/// Sets the counters of a case from the seconds that it took and those of its baseline. "ratio" is
+/// that of the two medians.
+inline void compare(benchmark::State &state, const std::vector<double> &ours,
+                    const std::vector<double> &baseline)
+{
+    constexpr double MillisecondsPerSecond = 1000;
+    state.counters["median_ms"] = median(ours) * MillisecondsPerSecond;
+    state.counters["baseline_ms"] = median(baseline) * MillisecondsPerSecond;
+    state.counters["ratio"] = median(ours) / median(baseline);
+}
+
 /// Measures \a ours and \a baseline in turn, after \a prepare each time. Both return the seconds that
-/// they took. The counter "ratio" is that of the two medians.
+/// they took.
 inline void timesSideBySide(benchmark::State &state, const std::function<void()> &prepare,
                             const std::function<double()> &ours,
                             const std::function<double()> &baseline)
@@ -74,10 +85,7 @@ inline void timesSideBySide(benchmark::State &state, const std::function<void()>
         own.push_back(ours());
         state.SetIterationTime(own.back());
     }
-    constexpr double MillisecondsPerSecond = 1000;
-    state.counters["median_ms"] = median(own) * MillisecondsPerSecond;
-    state.counters["baseline_ms"] = median(other) * MillisecondsPerSecond;
-    state.counters["ratio"] = median(own) / median(other);
+    compare(state, own, other);
 }
 
 /// The same for what is measured from its begin to its end.

@@ -20,7 +20,19 @@
 using namespace Qt::StringLiterals;
 using namespace VornFrame;
 
-FrameWindow::FrameWindow(const QString &path)
+namespace {
+
+void setSize(QMainWindow *window, FrameWidth width)
+{
+    if (width == FrameWidth::OfScreen)
+        window->setFixedSize(WindowSize);
+    else
+        window->resize(WindowSize);
+}
+
+} // namespace
+
+FrameWindow::FrameWindow(const QString &path, FrameWidth width)
 {
     m_agent.setup(&m_window, true, true);
     addPages();
@@ -28,7 +40,7 @@ FrameWindow::FrameWindow(const QString &path)
     m_agent.addressBar()->resetPath(path);
     addViews();
     addSections();
-    m_window.resize(WindowSize);
+    setSize(&m_window, width);
 }
 
 void FrameWindow::switchTo(int section)
@@ -81,15 +93,14 @@ void FrameWindow::addSections()
     DockContentWidget *content = m_agent.dockContainer()->contentWidget();
     for (int section = 0; section < Sections; ++section) {
         content->addSection(u"Section %1"_s.arg(section));
-        const int first = OrdinaryPages + section * PagesPerSection;
-        m_agent.bindRibbonPagesAndDockPartition({bar->page(first), bar->page(first + 1)}, section);
+        m_agent.bindRibbonPagesAndDockPartition({bar->page(OrdinaryPages + section)}, section);
     }
     for (int tab = 0; tab < Tabs; ++tab)
         content->addTab(tab / TabsPerSection, new QLabel(tabName(tab)), tabName(tab));
     bar->setCurrentIndex(0);
 }
 
-PlainFrameWindow::PlainFrameWindow(const QString &path)
+PlainFrameWindow::PlainFrameWindow(const QString &path, FrameWidth width)
 {
     auto *central = new QWidget;
     auto *layout = new QVBoxLayout(central);
@@ -105,17 +116,15 @@ PlainFrameWindow::PlainFrameWindow(const QString &path)
     m_buttons.frame().setUpdatesEnabled(true);
     m_pages->widget(0)->layout()->addWidget(&m_buttons.frame());
     for (int p = FrameWindow::OrdinaryPages; p < FrameWindow::Pages; ++p)
-        m_pages->setTabVisible(p, p < FrameWindow::OrdinaryPages + FrameWindow::PagesPerSection);
-    m_window.resize(WindowSize);
+        m_pages->setTabVisible(p, p == FrameWindow::OrdinaryPages);
+    setSize(&m_window, width);
 }
 
 void PlainFrameWindow::switchTo(int section)
 {
-    const int first = FrameWindow::OrdinaryPages + section * FrameWindow::PagesPerSection;
     m_content->setCurrentIndex(section * FrameWindow::TabsPerSection);
     for (int p = FrameWindow::OrdinaryPages; p < FrameWindow::Pages; ++p)
         m_pages->setTabVisible(p, false);
-    for (int p = first; p < first + FrameWindow::PagesPerSection; ++p)
-        m_pages->setTabVisible(p, true);
-    m_pages->setCurrentIndex(first);
+    m_pages->setTabVisible(FrameWindow::OrdinaryPages + section, true);
+    m_pages->setCurrentIndex(FrameWindow::OrdinaryPages + section);
 }

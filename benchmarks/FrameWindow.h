@@ -10,21 +10,25 @@
 #include <QMainWindow>
 #include <QString>
 
+enum class FrameWidth {
+    OfScreen, ///< as wide as a screen; what a page has more is cut off
+    OfPages, ///< as wide as the widest page, as windows are that nobody limits
+};
+
 /// A window that an agent has set up with all that it offers: a ribbon of ten pages with a gallery, an
-/// address bar, twelve views and three sections of twenty tabs. Six of the pages are temporary and
-/// belong to the sections, two to each.
+/// address bar, twelve views and three sections of twenty tabs. Three of the pages are temporary and
+/// belong to the sections, one to each.
 class FrameWindow
 {
 public:
     static constexpr int Pages = 10;
-    static constexpr int PagesPerSection = 2;
     static constexpr int Sections = 3;
-    static constexpr int OrdinaryPages = Pages - Sections * PagesPerSection;
+    static constexpr int OrdinaryPages = Pages - Sections;
     static constexpr int TabsPerSection = 20;
     static constexpr int Tabs = Sections * TabsPerSection;
     static constexpr int GalleryActions = 60;
 
-    explicit FrameWindow(const QString &path);
+    FrameWindow(const QString &path, FrameWidth width);
 
     QMainWindow *window() { return &m_window; }
     void switchTo(int section);
@@ -44,7 +48,7 @@ private:
 class PlainFrameWindow
 {
 public:
-    explicit PlainFrameWindow(const QString &path);
+    PlainFrameWindow(const QString &path, FrameWidth width);
 
     QMainWindow *window() { return &m_window; }
     void switchTo(int section);

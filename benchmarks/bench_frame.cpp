@@ -13,12 +13,14 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QPixmapCache>
 #include <QProcess>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 
 #include <memory>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -57,12 +59,28 @@ private:
 
 std::unique_ptr<FrameWindow> createFrame()
 {
-    return std::make_unique<FrameWindow>(Folders::path());
+    return std::make_unique<FrameWindow>(Folders::path(), FrameWidth::OfScreen);
+}
+
+std::unique_ptr<FrameWindow> createWideFrame()
+{
+    return std::make_unique<FrameWindow>(Folders::path(), FrameWidth::OfPages);
 }
 
 std::unique_ptr<PlainFrameWindow> createPlain()
 {
-    return std::make_unique<PlainFrameWindow>(Folders::path());
+    return std::make_unique<PlainFrameWindow>(Folders::path(), FrameWidth::OfScreen);
+}
+
+double plainParts()
+{
+    return secondsUntilPlainPartsArePainted(Folders::path());
+}
+
+/// The style sheet that an agent has set for the whole application would cost plain windows too.
+void dropSheet()
+{
+    qApp->setStyleSheet({});
 }
 
 void nothing() {}
@@ -70,15 +88,21 @@ void nothing() {}
 void firstPaint(benchmark::State &state)
 {
     timesSideBySide(
-        state, nothing, [] { return secondsUntilPainted(createFrame); },
-        [] { return secondsUntilPlainPartsArePainted(Folders::path()); });
+        state, dropSheet, [] { return secondsUntilPainted(createFrame); }, plainParts);
 }
 BENCHMARK(firstPaint)->Apply(timed)->Iterations(25);
+
+void firstPaintAsWideAsPages(benchmark::State &state)
+{
+    timesSideBySide(
+        state, dropSheet, [] { return secondsUntilPainted(createWideFrame); }, plainParts);
+}
+BENCHMARK(firstPaintAsWideAsPages)->Apply(timed)->Iterations(25);
 
 void firstPaintBesideOnePlainWindow(benchmark::State &state)
 {
     timesSideBySide(
-        state, nothing, [] { return secondsUntilPainted(createFrame); },
+        state, dropSheet, [] { return secondsUntilPainted(createFrame); },
         [] { return secondsUntilPainted(createPlain); });
 }
 BENCHMARK(firstPaintBesideOnePlainWindow)->Apply(timed)->Iterations(25);
@@ -139,51 +163,60 @@ void load(benchmark::State &state)
 }
 BENCHMARK(load)->Apply(timed)->Iterations(25);
 
-/// Another section, with other pages in the ribbon, and a repaint of the whole window.
+/// Another section, with another page in the ribbon, until it is painted.
 template <typename Window>
-double secondsOfSwitch(Window &scene, int turn)
+double secondsOfSwitch(Window &scene, int section)
 {
     PaintWatcher watcher(scene.window());
-    return seconds([&scene, &watcher, turn] {
-        scene.switchTo(turn % FrameWindow::Sections);
-        scene.window()->update();
+    return seconds([&scene, &watcher, section] {
+        scene.switchTo(section);
         watcher.waitForPaint();
     });
 }
 
+constexpr int Switches = 300;
+
+/// Through sections that have all been seen before.
+template <typename Create>
+std::vector<double> secondsOfSwitches(Create create)
+{
+    dropSheet();
+    const auto scene = create();
+    showUntilPainted(scene->window());
+    for (int section = 0; section < FrameWindow::Sections; ++section)
+        secondsOfSwitch(*scene, section);
+    std::vector<double> times;
+    for (int turn = 0; turn < Switches; ++turn)
+        times.push_back(secondsOfSwitch(*scene, turn % FrameWindow::Sections));
+    return times;
+}
+
+/// The two windows come one after the other: the style sheet of one would cost the other too.
 void switchSection(benchmark::State &state)
 {
-    const std::unique_ptr<FrameWindow> frame = createFrame();
-    const std::unique_ptr<PlainFrameWindow> plain = createPlain();
-    showUntilPainted(frame->window());
-    showUntilPainted(plain->window());
-    for (int section = 0; section < FrameWindow::Sections; ++section) {
-        secondsOfSwitch(*frame, section);
-        secondsOfSwitch(*plain, section);
+    for (auto _ : state) {
+        const std::vector<double> plain = secondsOfSwitches(createPlain);
+        const std::vector<double> frame = secondsOfSwitches(createFrame);
+        state.SetIterationTime(median(frame));
+        compare(state, frame, plain);
     }
-    int turn = 0;
-    int plainTurn = 0;
-    timesSideBySide(
-        state, nothing, [&] { return secondsOfSwitch(*frame, turn++); },
-        [&] { return secondsOfSwitch(*plain, plainTurn++); });
 }
-BENCHMARK(switchSection)->Apply(timed)->Iterations(300);
+BENCHMARK(switchSection)->Apply(timed)->Iterations(1);
 
-/// To a section whose pages and tabs nobody has seen before.
+/// To a section whose page and tabs nobody has seen before.
+template <typename Create>
+double secondsOfFirstSwitch(Create create)
+{
+    const auto scene = create();
+    showUntilPainted(scene->window());
+    return secondsOfSwitch(*scene, 1);
+}
+
 void switchSectionFirst(benchmark::State &state)
 {
-    std::unique_ptr<FrameWindow> frame;
-    std::unique_ptr<PlainFrameWindow> plain;
-    const auto prepare = [&] {
-        plain.reset();
-        frame = createFrame();
-        plain = createPlain();
-        showUntilPainted(frame->window());
-        showUntilPainted(plain->window());
-    };
     timesSideBySide(
-        state, prepare, [&] { return secondsOfSwitch(*frame, 1); },
-        [&] { return secondsOfSwitch(*plain, 1); });
+        state, dropSheet, [] { return secondsOfFirstSwitch(createFrame); },
+        [] { return secondsOfFirstSwitch(createPlain); });
 }
 BENCHMARK(switchSectionFirst)->Apply(timed)->Iterations(15);
 
@@ -213,9 +246,11 @@ void openAndCloseManyWindows(benchmark::State &state)
             showUntilPainted(createFrame()->window());
     };
     open(WarmUp);
+    QPixmapCache::clear();
     const double before = heap();
     for (auto _ : state)
         state.SetIterationTime(seconds([&open] { open(Windows); }));
+    QPixmapCache::clear();
     state.counters["kept_KiB"] = (heap() - before) / Kibibyte;
 }
 BENCHMARK(openAndCloseManyWindows)->Apply(timed)->Iterations(1);

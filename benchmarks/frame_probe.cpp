@@ -42,6 +42,8 @@ int main(int argc, char **argv)
 {
     QElapsedTimer timer;
     timer.start();
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     QLoggingCategory::setFilterRules(u"*.warning=false"_s);
     QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     const QApplication app(argc, argv);
@@ -53,9 +55,9 @@ int main(int argc, char **argv)
     std::optional<FrameWindow> frame;
     std::optional<PlainFrameWindow> plain;
     if (kind == u"frame"_s)
-        showUntilPainted(frame.emplace(path).window());
+        showUntilPainted(frame.emplace(path, FrameWidth::OfScreen).window());
     else if (kind == u"plain"_s)
-        showUntilPainted(plain.emplace(path).window());
+        showUntilPainted(plain.emplace(path, FrameWidth::OfScreen).window());
     else if (kind == u"parts"_s)
         secondsUntilPlainPartsArePainted(path);
     else

@@ -14,6 +14,8 @@
 
 int main(int argc, char **argv)
 {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication app(argc, argv);
     if (argc != 2)
         return EXIT_FAILURE;

@@ -137,7 +137,7 @@ void RibbonBar::setCurrentIndex(int index)
     if (index < 0 || index >= count())
         return;
     d->tabBar->setCurrent(index);
-    d->stack->setCurrentIndex(index);
+    d->stack->setCurrentPage(index);
 }
 
 void RibbonBar::setCurrentPage(RibbonPage *page)

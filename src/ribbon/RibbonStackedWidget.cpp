@@ -7,11 +7,40 @@
 
 #include <VornFrame/RibbonPage.h>
 
+#include <QLayout>
+#include <QPointer>
+
 namespace VornFrame {
 
 namespace {
 
 constexpr int StackHeight = 95;
+
+/// Keeps a page from laying itself out, and from polishing all its buttons for their sizes, when it
+/// is shown in a stack that nobody sees: it may never be the current page of a visible one.
+class LayoutDelay
+{
+    Q_DISABLE_COPY_MOVE(LayoutDelay)
+
+public:
+    explicit LayoutDelay(const QWidget *page)
+        : m_layout(page && !page->parentWidget()->isVisible() ? page->layout() : nullptr),
+          m_wasEnabled(m_layout && m_layout->isEnabled())
+    {
+        if (m_wasEnabled)
+            m_layout->setEnabled(false);
+    }
+
+    ~LayoutDelay()
+    {
+        if (m_wasEnabled && m_layout)
+            m_layout->setEnabled(true);
+    }
+
+private:
+    const QPointer<QLayout> m_layout;
+    const bool m_wasEnabled;
+};
 
 } // namespace
 
@@ -138,7 +167,14 @@ void RibbonStackedWidget::showPage(int index)
     // The stack lays out its current page only, and would let another one be seen through its gaps.
     if (page != currentWidget())
         d->letWait(page);
+    const LayoutDelay delay(page);
     page->show();
+}
+
+void RibbonStackedWidget::setCurrentPage(int index)
+{
+    const LayoutDelay delay(widget(index));
+    setCurrentIndex(index);
 }
 
 RibbonPage *RibbonStackedWidget::page(int index) const

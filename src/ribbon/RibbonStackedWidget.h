@@ -33,6 +33,10 @@ public:
     void hidePage(int index);
     void showPage(int index);
 
+    /// Like setCurrentIndex(), but in a stack that is not visible the page is laid out and polished
+    /// only when it is first shown.
+    void setCurrentPage(int index);
+
     /// The page at \a index, null out of range.
     RibbonPage *page(int index) const;
 

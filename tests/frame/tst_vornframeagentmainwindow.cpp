@@ -94,6 +94,7 @@ private Q_SLOTS:
     void widgetsAreNullWhenTheWindowGoesFirst();
     void anAgentOwnedByItsWindowGoesWithIt();
     void aRibbonBarDeletedBeforeTheSetupIsLeftOut();
+    void theSheetMayDeleteTheAgent();
     void manyWindowsLeaveNothingBehind();
 };
 
@@ -345,6 +346,33 @@ void tst_VornFrameAgentMainWindow::aRibbonBarDeletedBeforeTheSetupIsLeftOut()
     DockContentWidget *content = agent.dockContainer()->contentWidget();
     content->addTab(content->addSection(u"Section"_s), new QWidget, u"Tab"_s);
     QVERIFY(!agent.ribbonBar());
+}
+
+void tst_VornFrameAgentMainWindow::theSheetMayDeleteTheAgent()
+{
+    // Deletes it as soon as the application has its style sheet.
+    class Deleter : public QMainWindow
+    {
+    public:
+        std::unique_ptr<VornFrameAgent> agent;
+
+    protected:
+        void changeEvent(QEvent *event) override
+        {
+            if (event->type() == QEvent::StyleChange)
+                agent.reset();
+            QMainWindow::changeEvent(event);
+        }
+    };
+
+    const LookRestorer restorer;
+    Deleter window;
+    window.agent = std::make_unique<VornFrameAgent>();
+    const std::unique_ptr<RibbonBar> bar(window.agent->ribbonBar());
+    window.agent->setup(&window, true, true);
+    QVERIFY(!window.agent);
+    QVERIFY(!bar->parent());
+    QCOMPARE(qApp->styleSheet(), globalSheet());
 }
 
 void tst_VornFrameAgentMainWindow::manyWindowsLeaveNothingBehind()
