@@ -86,7 +86,9 @@ void OutlineView::addEntries(const QList<OutlineEntry> &entries)
 
 void OutlineView::choose(const QTreeWidgetItem *item)
 {
-    const int line = item ? item->data(0, LineRole).toInt() : -1;
-    if (item && item->flags().testFlag(Qt::ItemIsEnabled) && line >= 0)
+    if (!item || !item->flags().testFlag(Qt::ItemIsEnabled))
+        return;
+    const int line = item->data(0, LineRole).toInt();
+    if (line >= 0)
         Q_EMIT lineChosen(line);
 }

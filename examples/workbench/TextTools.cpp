@@ -58,9 +58,11 @@ void TextTools::addView(VornFrame::RibbonPage *page, const ActionFactory &action
 void TextTools::changeCase(bool upper) const
 {
     const TextDocument *text = document();
-    if (!text || !text->editor()->textCursor().hasSelection())
+    if (!text)
         return;
     QTextCursor cursor = text->editor()->textCursor();
+    if (!cursor.hasSelection())
+        return;
     const int start = cursor.selectionStart();
     const QString selected = cursor.selectedText();
     cursor.insertText(upper ? selected.toUpper() : selected.toLower());

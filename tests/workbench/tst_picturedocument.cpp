@@ -247,7 +247,7 @@ void tst_PictureDocument::aNameForScreensOfDoubleRatioChangesNoSize()
     const auto document = load<PictureDocument>(
         createFile(u"a@2x.png"_s, encoded(numbered({8, 6}))));
     QCOMPARE(document->image().devicePixelRatio(), 1.0);
-    QCOMPARE(property(document.get(), u"Size"_s), u"8 × 6 pixels"_s);
+    QCOMPARE(property(document.get(), u"Size"_s), u"8 × 6 px"_s);
 }
 
 void tst_PictureDocument::zoomsInStepsAndEnds()
@@ -432,7 +432,7 @@ void tst_PictureDocument::propertiesFollowThePicture()
     const auto document = load<PictureDocument>(createFile(u"a.png"_s, encoded(numbered({8, 6}))));
     document->setZoom(2);
     document->rotate(1);
-    QCOMPARE(property(document.get(), u"Size"_s), u"6 × 8 pixels"_s);
+    QCOMPARE(property(document.get(), u"Size"_s), u"6 × 8 px"_s);
     QCOMPARE(property(document.get(), u"Depth"_s), u"32 bits per pixel"_s);
     QCOMPARE(property(document.get(), u"Format"_s), u"PNG"_s);
     QCOMPARE(property(document.get(), u"Zoom"_s), u"200 %"_s);

@@ -30,6 +30,8 @@
 #include <QToolButton>
 #include <QTreeView>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using VornFrame::DockContainer;
 
@@ -81,11 +83,9 @@ QString tst_WorkbenchWindow::ribbonPage() const
 bool tst_WorkbenchWindow::hasTab(const QString &text) const
 {
     const auto buttons = window()->agent()->ribbonBar()->findChildren<QAbstractButton *>();
-    for (const QAbstractButton *button : buttons) {
-        if (button->text().remove(u'&') == text && button->isVisible())
-            return true;
-    }
-    return false;
+    return std::any_of(buttons.cbegin(), buttons.cend(), [&text](const QAbstractButton *button) {
+        return button->text().remove(u'&') == text && button->isVisible();
+    });
 }
 
 void tst_WorkbenchWindow::aFolderIsShownInBarAndTree()

@@ -112,9 +112,10 @@ struct Neighbours
     {
         const int left = std::max(x - 1, 0);
         const int right = std::min(x + 1, image.width() - 1);
-        for (int dy = -1; dy <= 1; ++dy) {
-            const QRgb *row = PixelRows::row(image, std::clamp(y + dy, 0, image.height() - 1));
-            light[size_t(dy + 1)] = {qGray(row[left]), qGray(row[x]), qGray(row[right])};
+        int above = y - 1;
+        for (auto &lights : light) {
+            const QRgb *row = PixelRows::row(image, std::clamp(above++, 0, image.height() - 1));
+            lights = {qGray(row[left]), qGray(row[x]), qGray(row[right])};
         }
     }
 

@@ -169,7 +169,7 @@ QList<QPair<QString, QString>> PictureDocument::properties() const
     const QLocale locale;
     const QImage picture = image();
     QList<QPair<QString, QString>> list{
-        {tr("Size"), tr("%1 × %2 pixels").arg(picture.width()).arg(picture.height())},
+        {tr("Size"), tr("%1 × %2 px").arg(picture.width()).arg(picture.height())},
         {tr("Depth"), tr("%1 bits per pixel").arg(picture.depth())},
         {tr("Format"), m_file.formatName()},
         {tr("Zoom"), tr("%1 %").arg(locale.toString(zoom() * 100, 'f', 0))},
@@ -182,7 +182,7 @@ QList<QPair<QString, QString>> PictureDocument::properties() const
 
 FileStatus PictureDocument::write(Loss loss)
 {
-    const FileStatus status = m_file.save(
+    FileStatus status = m_file.save(
         image(), loss == Loss::Accepted ? PictureFile::Loss::Accepted : PictureFile::Loss::Refused);
     if (status.ok()) {
         m_undoStack->setClean();
@@ -193,5 +193,5 @@ FileStatus PictureDocument::write(Loss loss)
 
 FileStatus PictureDocument::writeCopy(const QString &path)
 {
-    return m_file.saveCopy(path, image());
+    return PictureFile::saveCopy(path, image());
 }

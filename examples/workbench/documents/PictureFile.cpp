@@ -167,7 +167,7 @@ FileStatus PictureFile::save(const QImage &image, Loss loss)
     return {};
 }
 
-FileStatus PictureFile::saveCopy(const QString &path, const QImage &image) const
+FileStatus PictureFile::saveCopy(const QString &path, const QImage &image)
 {
     QByteArray bytes;
     const QByteArray format = QFileInfo(path).suffix().toLower().toLatin1();

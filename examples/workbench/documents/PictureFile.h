@@ -33,7 +33,7 @@ public:
 
     /// Writes \a image to another file, in the format that the name says, which has to hold all of
     /// it.
-    FileStatus saveCopy(const QString &path, const QImage &image) const;
+    static FileStatus saveCopy(const QString &path, const QImage &image);
 
     bool isChangedOnDisk() const;
     /// Follows the file to another \a path.
