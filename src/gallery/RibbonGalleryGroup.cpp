@@ -46,7 +46,9 @@ void setShown(QWidget *widget, bool shown)
 void RibbonGalleryGroupPrivate::init(const QIcon &icon, const QString &title)
 {
     iconLabel->setPixmap(icon.pixmap(TitleIconSize, qGuiApp->devicePixelRatio()));
-    iconLabel->setHidden(icon.isNull());
+    // Only hidden, never shown: it has no parent yet, and would be seen as a window.
+    if (icon.isNull())
+        iconLabel->hide();
     iconLabel->setMinimumWidth(TitleIconSize.width() + TitleIconMargin);
     titleLabel->setTextFormat(Qt::PlainText);
     titleLabel->setText(title);
