@@ -9,11 +9,13 @@
 #include "support/Input.h"
 #include "support/TestCase.h"
 
+#include <QAction>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QToolButton>
 
 #include <limits>
 #include <memory>
@@ -68,6 +70,7 @@ private Q_SLOTS:
     void clicksDoNotReachAPageShownBehind_data();
     void clicksDoNotReachAPageShownBehind();
     void aHiddenPageIsShownWhenItBecomesCurrent();
+    void aPageChosenInAHiddenStackIsPolishedWhenItIsSeen();
     void aPageShownBehindWorksWhenItBecomesCurrent_data();
     void aPageShownBehindWorksWhenItBecomesCurrent();
     void aPageShownBehindComesForwardWhenTheCurrentOneIsDeleted();
@@ -366,6 +369,24 @@ void tst_RibbonStackedWidget::aHiddenPageIsShownWhenItBecomesCurrent()
     QVERIFY(second->isVisible());
     QVERIFY(!first->isVisible());
     QCOMPARE(second->size(), stack.size());
+}
+
+void tst_RibbonStackedWidget::aPageChosenInAHiddenStackIsPolishedWhenItIsSeen()
+{
+    RibbonStackedWidget stack(nullptr);
+    stack.addPage(u"Home"_s);
+    RibbonPage *page = stack.addPage(u"View"_s);
+    RibbonGroup *group = page->addGroup(u"Group"_s);
+    group->addAction(new QAction(u"Action"_s, page));
+    const auto *button = group->findChild<QToolButton *>();
+    stack.showPage(1);
+    stack.setCurrentPage(1);
+    QVERIFY(!page->isHidden());
+    QVERIFY(!button->testAttribute(Qt::WA_WState_Polished));
+    QVERIFY(Input::show(&stack));
+    QVERIFY(button->testAttribute(Qt::WA_WState_Polished));
+    QVERIFY(group->width() >= button->sizeHint().width());
+    QVERIFY(group->rect().contains(QRect(button->mapTo(group, QPoint()), button->size())));
 }
 
 void tst_RibbonStackedWidget::aPageShownBehindWorksWhenItBecomesCurrent_data()
