@@ -70,10 +70,13 @@ FileStatus FileBytes::write(const QString &path, const QByteArray &bytes)
     // disk.
     const bool isWritten = file.write(bytes) == bytes.size() && file.flush()
                            && file.size() == bytes.size();
+    // A write that is cut short is no error to Qt, and has no text.
+    const QString cutShort = tr("Not all of it could be written. The disk may be full.");
     if (!isWritten || !file.commit())
-        return {Error::WriteFailed, file.errorString()};
+        return {Error::WriteFailed,
+                file.error() == QFileDevice::NoError ? cutShort : file.errorString()};
     if (QFileInfo(target).size() != bytes.size())
-        return {Error::WriteFailed, tr("Not all of it could be written.")};
+        return {Error::WriteFailed, cutShort};
     return {};
 }
 

@@ -10,6 +10,13 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// In px, around a name.
+constexpr int Name_Room = 12;
+
+} // namespace
+
 PropertyList::PropertyList(QWidget *parent) : QTreeWidget(parent)
 {
     setObjectName(u"properties"_s);
@@ -29,7 +36,8 @@ void PropertyList::setProperties(const QList<QPair<QString, QString>> &propertie
     clear();
     for (const auto &[name, value] : properties) {
         auto *item = new QTreeWidgetItem({name, value});
-        item->setSizeHint(0, {0, ToolView::Row_Height});
+        item->setSizeHint(
+            0, {fontMetrics().horizontalAdvance(name) + Name_Room, ToolView::Row_Height});
         item->setToolTip(1, u"<p>%1</p>"_s.arg(value.toHtmlEscaped()));
         addTopLevelItem(item);
     }

@@ -97,7 +97,9 @@ FileStatus PictureFile::encode(const QImage &image, const QByteArray &format, QB
         return {Error::WriteFailed,
                 format.isEmpty()
                     ? tr("The name says no format for pictures.")
-                    : tr("Pictures in the format %1 can be read, but not written.").arg(name)};
+                    : tr("Pictures in the format %1 can be read, but not written. A copy can have "
+                         "another format.")
+                          .arg(name)};
     QBuffer buffer(bytes);
     QImageWriter writer(&buffer, format);
     if (isJpeg(format))
@@ -148,7 +150,8 @@ FileStatus PictureFile::save(const QImage &image, Loss loss)
 {
     if (m_imageCount > 1)
         return {FileStatus::Error::WriteFailed,
-                tr("The file holds %1 pictures, and only one of them would be left.")
+                tr("The file holds %1 pictures, and only one of them would be left. It can be "
+                   "saved as a copy.")
                     .arg(m_imageCount)};
     if (FileStatus status = checkExtras(image); !status.ok() && loss == Loss::Refused)
         return status;
