@@ -16,6 +16,8 @@ namespace {
 
 constexpr int Display_Count = 6;
 constexpr QSize Preview_Size(32, 32);
+/// With room for the longest name.
+constexpr QSize Tile_Size(112, 60);
 
 QString actionName(const QString &id)
 {
@@ -30,6 +32,7 @@ FilterGallery::FilterGallery(QWidget *parent) : RibbonGallery(parent)
     setAccessibleName(tr("Filters"));
     // Before the items: they keep what holds when they come.
     setIconSize(Preview_Size);
+    setActionSize(Tile_Size);
     setDispalyCount(Display_Count);
     setCollectEnabled(true);
     QHash<QString, int> groups;

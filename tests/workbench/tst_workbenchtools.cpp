@@ -7,6 +7,7 @@
 #include "support/ModalScript.h"
 
 #include "DocumentLoader.h"
+#include "FilterGallery.h"
 #include "PictureDocument.h"
 #include "TableDocument.h"
 #include "TextDocument.h"
@@ -24,10 +25,13 @@
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTextBlock>
+#include <QToolButton>
 #include <QToolTip>
 #include <QTreeView>
 #include <QTreeWidget>
 #include <QUndoStack>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -51,6 +55,7 @@ private Q_SLOTS:
     void theOutlineSaysWhyItIsEmpty();
     void theOutlineStaysWhileItsHeadingsDo();
     void previewsAreMadeOncePerPicture();
+    void theNamesOfFiltersFitTheirTiles();
     void searchesInATextRoundAndRound();
     void searchesInATable();
     void searchOffersFiltersForAPicture();
@@ -378,6 +383,23 @@ void tst_WorkbenchTools::previewsAreMadeOncePerPicture()
     shown<PictureDocument>()->rotate(1);
     QVERIFY(command(u"filter_invert"_s)->icon().cacheKey() != before);
     shown<PictureDocument>()->undo();
+}
+
+void tst_WorkbenchTools::theNamesOfFiltersFitTheirTiles()
+{
+    constexpr int Border = 4;
+    const QList<QAction *> filters = m_own->gallery()->matches(QString());
+    QVERIFY(!filters.isEmpty());
+    for (const QAction *filter : filters) {
+        const QList<QObject *> users = filter->associatedObjects();
+        const auto isTile = [](const QObject *user) { return user->inherits("QToolButton"); };
+        const auto tile = std::find_if(users.cbegin(), users.cend(), isTile);
+        QVERIFY(tile != users.cend());
+        const auto *button = qobject_cast<const QToolButton *>(*tile);
+        QVERIFY2(button->fontMetrics().horizontalAdvance(filter->text()) + 2 * Border
+                     <= button->sizeHint().width(),
+                 qPrintable(filter->text()));
+    }
 }
 
 void tst_WorkbenchTools::searchesInATextRoundAndRound()
