@@ -91,6 +91,7 @@ This script knows Debian 12, Debian 13 and Ubuntu 24.04, and this is none of the
   - a C++17 compiler, CMake 3.22 or newer, Ninja, ccache, pkg-config
   - Qt 6.4 or newer with its headers (Core, Gui, Widgets, Test), Qt's SVG icon plugin, a font
   - Google Benchmark
+  - for the tests at a screen: Xvfb, openbox, xdotool, ImageMagick
   - for the checks: clang, clang-format, clang-tidy, clazy, Python 3
 Then build and test with:
   cmake --preset dev && cmake --build --preset dev && ctest --preset dev

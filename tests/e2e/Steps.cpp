@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int Trail_Length = 12;
-constexpr std::chrono::milliseconds Poll_Interval{20};
+constexpr unsigned long Poll_Interval = 20; // ms
 
 } // namespace
 
@@ -44,7 +44,7 @@ bool Steps::waitUntil(const std::function<bool()> &isThere, const std::function<
         if (deadline.hasExpired())
             fail(reason());
         else
-            QThread::msleep(Poll_Interval.count());
+            QThread::msleep(Poll_Interval);
     }
     return false;
 }

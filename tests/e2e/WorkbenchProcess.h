@@ -8,6 +8,8 @@
 #include <QRect>
 #include <QStringList>
 
+#include <functional>
+
 class Steps;
 class TemporaryHome;
 

@@ -21,6 +21,8 @@ private Q_SLOTS:
 private:
     QRect panel(const QString &name) const;
     void dragEdge(const QString &panel, int by) const;
+    void dragFrame(QPoint from, QPoint by) const;
+    void markFavourite() const;
 };
 
 /// Where a panel is, once it is shown.
@@ -43,6 +45,38 @@ void tst_E2eLayout::dragEdge(const QString &name, int by) const
     const QRect rect = panel(name);
     const QPoint edge(name == "left"_L1 ? rect.right() : rect.left(), rect.center().y());
     person()->drag(edge, edge + QPoint(by, 0));
+}
+
+/// Drags the frame of the window to the left and up, until its corner is gone from where it was. The
+/// window itself is told of its new place only after that.
+void tst_E2eLayout::dragFrame(QPoint from, QPoint by) const
+{
+    const QString before = workbench()->value(u"window"_s);
+    const QPoint corner = workbench()->place(u"widget workbench"_s).bottomRight();
+    person()->startDrag(from, from + by);
+    // The first movement only tells the window manager that this is no click.
+    int movements = 0;
+    scene()->steps()->waitUntil(
+        [&] {
+            person()->move(from + by + QPoint(++movements % 2, 0));
+            return scene()->colorAt(corner) == Qt::black;
+        },
+        [] { return u"the frame of the window cannot be dragged"_s; });
+    person()->drop();
+    workbench()->waitFor(u"window"_s, [before](const QString &value) { return value != before; });
+    workbench()->place(u"widget workbench"_s);
+}
+
+/// In the popup of the gallery, which can be seen.
+void tst_E2eLayout::markFavourite() const
+{
+    scene()->click(u"widget popupButton"_s);
+    const QRect tile = workbench()->place(u"action filter_blue"_s);
+    person()->move(tile.center());
+    person()->click(tile.topLeft() + QPoint(9, 9));
+    workbench()->waitFor(u"favourites"_s, u"blue"_s);
+    person()->press(u"Escape"_s);
+    workbench()->waitUntilGone(u"widget galleryPopupMenu"_s);
 }
 
 void tst_E2eLayout::aPanelIsDraggedToNothingAndComesBack()
@@ -86,31 +120,21 @@ void tst_E2eLayout::theNextStartFindsEverythingAgain()
     scene()->start({u"folder/readme.txt"_s, u"folder/notes.md"_s, u"folder/picture.png"_s,
                     u"folder/table.csv"_s, u"other"_s});
     workbench()->waitFor(u"folder"_s, scene()->path(u"other"_s));
+    const QRect window = workbench()->place(u"widget workbench"_s);
     // The title bar, and then the lower right corner of the frame.
-    QRect window = workbench()->place(u"widget workbench"_s);
-    person()->drag({window.left() + 200, window.top() - 10},
-                   {window.left() + 170, window.top() - 40});
-    workbench()->waitFor(u"window"_s, [window](const QString &value) {
-        return !value.startsWith(u"%1 %2 "_s.arg(window.x()).arg(window.y()));
-    });
-    window = workbench()->place(u"widget workbench"_s);
-    person()->drag(window.bottomRight() + QPoint(-4, 4), window.bottomRight() + QPoint(-44, -26));
-    workbench()->waitFor(u"window"_s, [window](const QString &value) {
-        return !value.endsWith(u" %1 %2"_s.arg(window.width()).arg(window.height()));
-    });
-    workbench()->place(u"widget workbench"_s);
+    dragFrame({window.left() + 200, window.top() - 10}, {-30, -30});
+    const QPoint corner = workbench()->place(u"widget workbench"_s).bottomRight();
+    dragFrame(corner + QPoint(-4, 4), {-40, -30});
+    const int width = panel(u"left"_s).width();
     dragEdge(u"left"_s, -60);
+    workbench()->waitFor(u"panel left"_s, [width](const QString &value) {
+        return value.section(u' ', 2, 2).toInt() < width - 50;
+    });
     dragEdge(u"right"_s, panel(u"right"_s).width());
     workbench()->waitFor(u"panel right"_s, u"- minimized"_s);
     scene()->click(u"section 1"_s);
     workbench()->waitFor(u"ribbon page"_s, u"pictureTools"_s);
-    scene()->click(u"widget popupButton"_s);
-    const QRect tile = workbench()->place(u"action filter_cool"_s);
-    person()->move(tile.center());
-    person()->click(tile.topLeft() + QPoint(9, 9));
-    workbench()->waitFor(u"favourites"_s, u"cool"_s);
-    person()->press(u"Escape"_s);
-    workbench()->waitUntilGone(u"widget galleryPopupMenu"_s);
+    markFavourite();
     scene()->click(u"section 0"_s);
     scene()->click(u"tab 0 0"_s);
     workbench()->waitFor(u"document"_s, scene()->path(u"folder/readme.txt"_s));
