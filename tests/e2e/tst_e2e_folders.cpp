@@ -3,7 +3,10 @@
 
 #include "EndToEndCase.h"
 
+#include <QDir>
 #include <QFile>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -18,10 +21,14 @@ private Q_SLOTS:
     void aTypedPathIsOpened();
     void aWrongPathIsSaidAndCanBeMended();
     void aCutFileIsMovedAsAWhole();
+    void aNameThatIsThereAlreadyIsAskedAbout_data();
+    void aNameThatIsThereAlreadyIsAskedAbout();
 
 private:
     void openFolder(const QString &name) const;
     void startTyping() const;
+    void moveToInner(const QString &file) const;
+    QByteArrayList contentsOf(const QString &folder) const;
 };
 
 /// Starts the program with the folder \a name of the home folder.
@@ -37,6 +44,27 @@ void tst_E2eFolders::startTyping() const
     const QRect bar = workbench()->place(u"widget addressBar"_s);
     person()->click({bar.right() - 30, bar.center().y()});
     workbench()->waitUntilGone(u"button folder"_s);
+}
+
+/// Cuts a file in the tree and pastes it into the folder "inner" beside it.
+void tst_E2eFolders::moveToInner(const QString &file) const
+{
+    scene()->click(u"file "_s + file);
+    workbench()->waitFor(u"focus"_s, u"folders"_s);
+    person()->press(u"ctrl+x"_s);
+    scene()->click(u"file inner"_s);
+    person()->press(u"ctrl+v"_s);
+}
+
+/// What the files of a folder hold, sorted.
+QByteArrayList tst_E2eFolders::contentsOf(const QString &folder) const
+{
+    QByteArrayList contents;
+    const QStringList names = QDir(scene()->path(folder)).entryList(QDir::Files | QDir::Hidden);
+    for (const QString &name : names)
+        contents.append(scene()->bytesOf(folder + u'/' + name));
+    std::sort(contents.begin(), contents.end());
+    return contents;
 }
 
 void tst_E2eFolders::aBreadcrumbOpensItsFolder()
@@ -97,17 +125,45 @@ void tst_E2eFolders::aCutFileIsMovedAsAWhole()
 {
     openFolder(u"folder"_s);
     const QByteArray before = scene()->bytesOf(u"folder/picture.png"_s);
-    scene()->click(u"file picture.png"_s);
-    workbench()->waitFor(u"focus"_s, u"folders"_s);
-    person()->press(u"ctrl+x"_s);
-    scene()->click(u"file inner"_s);
-    person()->press(u"ctrl+v"_s);
+    moveToInner(u"picture.png"_s);
     workbench()->waitUntilGone(u"file picture.png"_s);
     QVERIFY(!QFile::exists(scene()->path(u"folder/picture.png"_s)));
     QCOMPARE(scene()->bytesOf(u"folder/inner/picture.png"_s), before);
     QCOMPARE(scene()->bytesOf(u"folder/inner/deep.txt"_s), "deep\n");
     QCOMPARE(scene()->bytesOf(u"folder/readme.txt"_s), "one\ntwo\nthree\n");
     scene()->leave();
+}
+
+void tst_E2eFolders::aNameThatIsThereAlreadyIsAskedAbout_data()
+{
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<QByteArrayList>("outside");
+    QTest::addColumn<QByteArrayList>("inside");
+
+    QTest::newRow("replace") << u"Replace Current"_s << QByteArrayList{} << QByteArrayList{"new\n"};
+    QTest::newRow("copy") << u"Save a Copy"_s << QByteArrayList{}
+                          << QByteArrayList{"new\n", "old\n"};
+    QTest::newRow("skip") << u"Skip"_s << QByteArrayList{"new\n"} << QByteArrayList{"old\n"};
+    QTest::newRow("cancel") << u"Cancel"_s << QByteArrayList{"new\n"} << QByteArrayList{"old\n"};
+}
+
+void tst_E2eFolders::aNameThatIsThereAlreadyIsAskedAbout()
+{
+    QFETCH(const QString, answer);
+    QFETCH(const QByteArrayList, outside);
+    QFETCH(const QByteArrayList, inside);
+    scene()->write(u"two/same.txt"_s, "new\n");
+    scene()->write(u"two/inner/same.txt"_s, "old\n");
+    openFolder(u"two"_s);
+    moveToInner(u"same.txt"_s);
+    workbench()->waitFor(u"box"_s, u"information"_s);
+    scene()->answer(answer);
+    scene()->steps()->waitUntil(
+        [&] { return contentsOf(u"two"_s) == outside && contentsOf(u"two/inner"_s) == inside; },
+        [] { return u"the files are not as expected"_s; });
+    scene()->leave();
+    QCOMPARE(contentsOf(u"two"_s), outside);
+    QCOMPARE(contentsOf(u"two/inner"_s), inside);
 }
 
 QTEST_GUILESS_MAIN(tst_E2eFolders)
