@@ -368,6 +368,8 @@ void WorkbenchWindow::showPlaceholder()
 /// What needs the sizes that the window has only now, or its screen.
 void WorkbenchWindow::showFirst()
 {
+    // Otherwise the keys begin at a button of the address bar.
+    m_tree->setFocus(Qt::OtherFocusReason);
     m_layout->apply(m_settings.docks);
     m_viewPage->showState();
     showPlaceholder();

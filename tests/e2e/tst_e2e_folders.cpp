@@ -20,6 +20,7 @@ private Q_SLOTS:
     void theArrowOfABreadcrumbOffersTheFoldersBelow();
     void aTypedPathIsOpened();
     void aWrongPathIsSaidAndCanBeMended();
+    void theKeysBeginInTheTree();
     void aCutFileIsMovedAsAWhole();
     void aNameThatIsThereAlreadyIsAskedAbout_data();
     void aNameThatIsThereAlreadyIsAskedAbout();
@@ -118,6 +119,18 @@ void tst_E2eFolders::aWrongPathIsSaidAndCanBeMended()
     person()->type(u"er"_s);
     person()->press(u"Return"_s);
     workbench()->waitFor(u"folder"_s, scene()->path(u"other"_s));
+    scene()->leave();
+}
+
+void tst_E2eFolders::theKeysBeginInTheTree()
+{
+    openFolder(u"folder"_s);
+    workbench()->waitFor(u"focus"_s, u"folders"_s);
+    workbench()->place(u"file readme.txt"_s);
+    person()->type(u"read"_s);
+    person()->press(u"ctrl+shift+o"_s);
+    workbench()->waitFor(u"tabs 0"_s, u"readme.txt"_s);
+    workbench()->waitFor(u"focus"_s, u"text"_s);
     scene()->leave();
 }
 
