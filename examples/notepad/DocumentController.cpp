@@ -7,11 +7,11 @@
 #include "NotepadActions.h"
 #include "StyledText.h"
 #include "TextEditor.h"
+#include "WaitCursor.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
@@ -22,10 +22,8 @@ namespace {
 template <typename Work>
 auto waiting(Work work)
 {
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    auto result = work();
-    QGuiApplication::restoreOverrideCursor();
-    return result;
+    const WaitCursor cursor;
+    return work();
 }
 
 bool isSameFile(const QString &path, const QString &other)

@@ -7,6 +7,7 @@
 #include "FileDocument.h"
 #include "Messages.h"
 #include "UnsavedChanges.h"
+#include "WaitCursor.h"
 
 #include <QApplication>
 #include <QDir>
@@ -32,6 +33,25 @@ QString toolTipFor(const QString &path)
 {
     return u"<p style=\"white-space: pre\">%1</p>"_s.arg(
         QDir::toNativeSeparators(path).toHtmlEscaped());
+}
+
+/// Whether another program wrote to the file, and reading it again loses nothing.
+bool isOutdated(const WorkbenchDocument *document)
+{
+    const auto *file = qobject_cast<const FileDocument *>(document);
+    return file != nullptr && !file->isModified() && file->isChangedOnDisk();
+}
+
+QString saved(WorkbenchDocument *document)
+{
+    const WaitCursor cursor;
+    return document->save();
+}
+
+QString savedAnyway(FileDocument *document)
+{
+    const WaitCursor cursor;
+    return document->saveAnyway();
 }
 
 bool isFocusIn(const QWidget *widget)
@@ -62,19 +82,32 @@ bool DocumentTabs::open(const QString &path)
 {
     const QString absolute = QFileInfo(path).absoluteFilePath();
     WorkbenchDocument *document = documentOf(absolute);
-    if (!document) {
-        QString reason;
-        document = m_loader(absolute, &reason);
-        if (!document) {
-            Q_EMIT signalFailed(
-                tr("“%1” could not be opened.").arg(QDir::toNativeSeparators(absolute)), reason);
+    if (!document || isOutdated(document)) {
+        WorkbenchDocument *before = std::exchange(document, load(absolute));
+        if (!document)
             return false;
-        }
         add(document);
+        if (before)
+            remove(before);
     }
     show(document);
     Q_EMIT signalDocumentsChanged();
     return true;
+}
+
+/// Null, after signalFailed(), when that was not possible.
+WorkbenchDocument *DocumentTabs::load(const QString &path)
+{
+    QString reason;
+    WorkbenchDocument *document = nullptr;
+    {
+        const WaitCursor cursor;
+        document = m_loader(path, &reason);
+    }
+    if (!document)
+        Q_EMIT signalFailed(tr("“%1” could not be opened.").arg(QDir::toNativeSeparators(path)),
+                            reason);
+    return document;
 }
 
 WorkbenchDocument *DocumentTabs::current() const
@@ -108,7 +141,7 @@ bool DocumentTabs::isAnyModified() const
 bool DocumentTabs::save(WorkbenchDocument *document)
 {
     const QString name = QDir::toNativeSeparators(document->path());
-    QString reason = document->save();
+    QString reason = saved(document);
     const QPointer<DocumentTabs> guard(this);
     const QPointer<FileDocument> file(qobject_cast<FileDocument *>(document));
     while (!reason.isEmpty() && file && file->canSaveAnyway()) {
@@ -116,7 +149,7 @@ bool DocumentTabs::save(WorkbenchDocument *document)
         if (!Messages::confirm(m_content->window(), question, tr("Save Anyway")) || guard == nullptr
             || file == nullptr)
             return false;
-        reason = file->saveAnyway();
+        reason = savedAnyway(file);
     }
     if (reason.isEmpty())
         Q_EMIT signalMessage(tr("“%1” was saved.").arg(name));

@@ -25,7 +25,8 @@ public:
     /// Adds its sections to \a content, which has to live as long as this.
     DocumentTabs(VornFrame::DockContentWidget *content, Loader loader, QObject *parent = nullptr);
 
-    /// Opens the file at \a path, or goes to its tab if it is open. False, after signalFailed(),
+    /// Opens the file at \a path, or goes to its tab if it is open; a document without changes whose
+    /// file was changed by another program is read again. False, after signalFailed(),
     /// when that was not possible.
     bool open(const QString &path);
 
@@ -79,6 +80,7 @@ Q_SIGNALS:
     void signalFailed(const QString &text, const QString &reason);
 
 private:
+    WorkbenchDocument *load(const QString &path);
     void add(WorkbenchDocument *document);
     void close(VornFrame::CloseMode mode, int section, int index);
     void remove(WorkbenchDocument *document);

@@ -50,6 +50,7 @@ private Q_SLOTS:
     void clipboardCommandsAreThereWhereTheyCanWork();
     void undoAndRedoAreThereWhenThereIsSomething();
     void aCopyIsSaved();
+    void openingAgainReadsWhatOthersWrote();
     void aFileThatIsRenamedInTheTreeStaysOpen();
     void aFolderThatIsRenamedInTheTreeTakesItsFilesAlong();
     void theOutlineSaysWhyItIsEmpty();
@@ -307,6 +308,29 @@ void tst_WorkbenchTools::aCopyIsSaved()
     QVERIFY(!m_own->tabs()->saveCopy(shown<TextDocument>(), path(u"missing/b.txt"_s)));
     QVERIFY(script.isDone());
     shown<TextDocument>()->undo();
+}
+
+void tst_WorkbenchTools::openingAgainReadsWhatOthersWrote()
+{
+    QVERIFY(m_own->openPath(createFile(u"a.txt"_s, "one\n")));
+    const TextDocument *before = shown<TextDocument>();
+    QVERIFY(m_own->openPath(path(u"a.txt"_s)));
+    QCOMPARE(shown<TextDocument>(), before);
+    QVERIFY(m_own->openPath(createFile(u"a.txt"_s, "others\n")));
+    QCOMPARE(shown<TextDocument>()->text(), u"others\n"_s);
+    QCOMPARE(m_own->tabs()->documents().size(), 1);
+    // Changes of one's own are not given up for those of others.
+    shown<TextDocument>()->editor()->insertPlainText(u"my "_s);
+    QVERIFY(m_own->openPath(createFile(u"a.txt"_s, "again\n")));
+    QCOMPARE(shown<TextDocument>()->text(), u"my others\n"_s);
+    shown<TextDocument>()->undo();
+    // What cannot be read any more stays as it was read.
+    createFile(u"a.txt"_s, QByteArray("\0", 1));
+    ModalScript script;
+    script.answer(QMessageBox::Ok);
+    QVERIFY(!m_own->tabs()->open(path(u"a.txt"_s)));
+    QVERIFY(script.isDone());
+    QCOMPARE(shown<TextDocument>()->text(), u"others\n"_s);
 }
 
 void tst_WorkbenchTools::aFileThatIsRenamedInTheTreeStaysOpen()

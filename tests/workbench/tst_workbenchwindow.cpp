@@ -141,16 +141,18 @@ void tst_WorkbenchWindow::aDoubleClickOpensAFile()
     createFile(u"t1.txt"_s);
     createFile(u"c1.CSV"_s);
     createFile(u"p1.png"_s);
+    createFile(u"c2.tab"_s);
+    createFile(u"t2"_s);
     const auto *model = qobject_cast<QFileSystemModel *>(tree()->model());
-    for (const auto &name : {u"t1.txt"_s, u"c1.CSV"_s, u"p1.png"_s}) {
+    for (const auto &name : {u"t1.txt"_s, u"c1.CSV"_s, u"p1.png"_s, u"c2.tab"_s, u"t2"_s}) {
         QTRY_VERIFY(tree()->visualRect(model->index(path(name))).isValid());
         Input::doubleClick(tree()->viewport(),
                            tree()->visualRect(model->index(path(name))).center());
         QTRY_COMPARE(current(), name);
     }
-    QCOMPARE(tabs(0), QStringList{u"t1.txt"_s});
+    QCOMPARE(tabs(0), (QStringList{u"t1.txt"_s, u"t2"_s}));
     QCOMPARE(tabs(1), QStringList{u"p1.png"_s});
-    QCOMPARE(tabs(2), QStringList{u"c1.CSV"_s});
+    QCOMPARE(tabs(2), (QStringList{u"c1.CSV"_s, u"c2.tab"_s}));
 }
 
 void tst_WorkbenchWindow::theSelectedFileIsOpened()

@@ -6,9 +6,9 @@
 #include "PictureCommand.h"
 #include "PictureFilters.h"
 #include "PictureView.h"
+#include "WaitCursor.h"
 
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QLocale>
 #include <QTransform>
 #include <QUndoStack>
@@ -110,9 +110,8 @@ void PictureDocument::applyFilter(const QString &id)
     const QString name = PictureFilters::name(id);
     if (name.isEmpty())
         return;
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const WaitCursor cursor;
     const QImage after = PictureFilters::apply(id, image());
-    QGuiApplication::restoreOverrideCursor();
     m_undoStack->push(new PictureCommand(m_view, after, name));
     Q_EMIT signalMessage(tr("%1: %2").arg(QFileInfo(path()).fileName(), name));
 }
