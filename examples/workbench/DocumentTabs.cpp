@@ -15,6 +15,7 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using VornFrame::DockContentWidget;

@@ -89,16 +89,13 @@ void FilterGallery::setPreviewOf(const QImage &picture)
         return;
     m_pictureKey = picture.cacheKey();
     m_ratio = ratio;
+    m_hasPreviews = true;
     QImage thumbnail;
     if (!picture.isNull()) {
         thumbnail = picture.scaled(Preview_Size * ratio, Qt::KeepAspectRatio,
                                    Qt::SmoothTransformation);
         thumbnail.setDevicePixelRatio(ratio);
     }
-    if (thumbnail == m_thumbnail && m_hasPreviews)
-        return;
-    m_thumbnail = thumbnail;
-    m_hasPreviews = true;
     for (const QString &id : std::as_const(m_ids))
         m_places.value(id).action->setIcon(thumbnail.isNull()
                                                ? PictureFilters::filterIcon(id)

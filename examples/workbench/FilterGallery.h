@@ -44,8 +44,7 @@ private:
     QStringList m_ids; ///< in the order of the catalogue
     QHash<QString, Place> m_places;
     QStringList m_favourites; ///< as far as it was heard of them
-    QImage m_thumbnail; ///< what the previews are of
-    qint64 m_pictureKey = 0; ///< of the picture that it shows
-    qreal m_ratio = 0; ///< of the screen for which it was made
+    qint64 m_pictureKey = 0; ///< of what the previews are of
+    qreal m_ratio = 0; ///< of the screen for which they were made
     bool m_hasPreviews = false;
 };

@@ -41,7 +41,10 @@ bool hasChunk(const QByteArray &bytes, const char *kind)
     for (qsizetype at = Signature; at + Frame <= bytes.size();) {
         if (bytes.mid(at + 4, 4) == kind)
             return true;
-        at += Frame + qsizetype(qFromBigEndian<quint32>(bytes.constData() + at));
+        const auto length = qFromBigEndian<quint32>(bytes.constData() + at);
+        if (length > quint64(bytes.size()))
+            break;
+        at += Frame + qsizetype(length);
     }
     return false;
 }
