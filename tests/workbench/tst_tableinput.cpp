@@ -10,6 +10,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTest>
@@ -31,6 +32,7 @@ private Q_SLOTS:
     void whatIsPastedMakesTheTableGrow();
     void typingIsAChangeBeforeItIsInTheTable();
     void savingTakesWhatIsBeingTyped();
+    void aCellOfSeveralLinesIsAChangeOnlyWhenItIsTypedInto();
     void whatIsTakenBackIsNoChange();
     void aTableMayGoWhileACellIsTypedInto();
 
@@ -166,12 +168,31 @@ void tst_TableInput::savingTakesWhatIsBeingTyped()
     QCOMPARE(bytesOf(filePath(u"b.csv"_s)), QByteArray("1,9\n3,8\n"));
 }
 
+void tst_TableInput::aCellOfSeveralLinesIsAChangeOnlyWhenItIsTypedInto()
+{
+    TableDocument *document = open("\"one\ntwo\",2\n");
+    const auto field = [document] { return document->view()->findChild<QPlainTextEdit *>(); };
+    document->view()->edit(document->model()->index(0, 0));
+    QVERIFY(field());
+    QVERIFY(!document->isModified());
+    QTest::keyClicks(field(), u"x"_s);
+    QVERIFY(document->isModified());
+    QCOMPARE(document->save(), QString());
+    QCOMPARE(bytesOf(document->path()), QByteArray("\"xone\ntwo\",2\n"));
+    QVERIFY(!document->isModified());
+    QTRY_VERIFY(!field());
+    QVERIFY(!document->isModified());
+}
+
 void tst_TableInput::whatIsTakenBackIsNoChange()
 {
     const TableDocument *document = open("1,2\n");
     type(0, 1, u"9"_s);
+    QSignalSpy spy(document, &WorkbenchDocument::signalModifiedChanged);
     QTest::keyClick(editor(), Qt::Key_Escape);
     QTRY_VERIFY(!document->isModified());
+    QCOMPARE(spy.size(), 1);
+    QCOMPARE(spy.at(0).at(0).toBool(), false);
     QCOMPARE(cell(0, 1), u"2"_s);
 }
 

@@ -5,6 +5,7 @@
 
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QSignalBlocker>
 
 using namespace Qt::StringLiterals;
 
@@ -41,7 +42,7 @@ QWidget *CellDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
         auto *editor = new QPlainTextEdit(parent);
         editor->setAccessibleName(tr("Cell"));
         editor->setTabChangesFocus(true);
-        connect(editor, &QPlainTextEdit::modificationChanged, this,
+        connect(editor, &QPlainTextEdit::textChanged, this,
                 [this, editor] { Q_EMIT edited(editor); });
         return editor;
     }
@@ -55,6 +56,8 @@ QWidget *CellDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
 void CellDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
 {
     const QString text = index.data(Qt::EditRole).toString();
+    // Nobody typed this.
+    const QSignalBlocker blocker(editor);
     if (auto *lines = qobject_cast<QPlainTextEdit *>(editor))
         lines->setPlainText(withFeeds(text));
     else if (auto *line = qobject_cast<QLineEdit *>(editor))

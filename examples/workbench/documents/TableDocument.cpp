@@ -158,9 +158,16 @@ void TableDocument::followInput(QWidget *editor)
     if (editor == m_editedCell)
         return;
     m_editedCell = editor;
-    const auto tell = [this] { Q_EMIT signalModifiedChanged(isModified()); };
-    connect(editor, &QObject::destroyed, this, tell);
-    tell();
+    connect(editor, &QObject::destroyed, this, &TableDocument::endInput);
+    Q_EMIT signalModifiedChanged(isModified());
+}
+
+void TableDocument::endInput(const QObject *editor)
+{
+    // A widget is still pointed to when it tells of its end.
+    if (m_editedCell == editor)
+        m_editedCell = nullptr;
+    Q_EMIT signalModifiedChanged(isModified());
 }
 
 void TableDocument::finishInput()

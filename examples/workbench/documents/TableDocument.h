@@ -75,6 +75,7 @@ private:
     void createKeys();
     void connectModel();
     void followInput(QWidget *editor);
+    void endInput(const QObject *editor);
     void keepCurrentCell();
     void restoreCurrentCell();
     void setCurrentCell(int row, int column);
