@@ -181,8 +181,8 @@ QList<QPair<QString, QString>> PictureDocument::properties() const
 
 FileStatus PictureDocument::write(Loss loss)
 {
-    FileStatus status = m_file.save(
-        image(), loss == Loss::Accepted ? PictureFile::Loss::Accepted : PictureFile::Loss::Refused);
+    FileStatus status = m_file.save(image(), loss == Loss::Accepted ? PictureFile::Loss::Accepted
+                                                                    : PictureFile::Loss::Refused);
     if (status.ok()) {
         m_undoStack->setClean();
         Q_EMIT signalContentChanged();
