@@ -91,12 +91,6 @@ void VornFrameAgentPrivate::setupDialog(QDialog *dialog, QWidget *content) const
 void VornFrameAgentPrivate::setupMainWindow(QMainWindow *window, bool withAddressBar,
                                             bool withDockPanels)
 {
-    // First of all: setting it polishes every widget that there is. The host sees that, and may
-    // delete the agent meanwhile.
-    const QPointer<VornFrameAgent> guard(q_ptr);
-    StyleSheets::installGlobalSheet(window);
-    if (!guard)
-        return;
     auto *central = new QWidget;
     window->setCentralWidget(central);
     auto *layout = new QVBoxLayout(central);
@@ -119,6 +113,7 @@ void VornFrameAgentPrivate::setupMainWindow(QMainWindow *window, bool withAddres
     QObject::connect(dockContainer->contentWidget(),
                      &DockContentWidget::signalCurrentSectionChanged, q_ptr,
                      [this](int section) { showPagesOf(section); });
+    StyleSheets::installGlobalSheet(window);
 }
 
 /// \a section has become the current one. Pages that come and go are seen by the host, which may
