@@ -22,7 +22,7 @@ const QString Folder_Path = u"/tmp/Voyage"_s;
 constexpr QPoint Parking_Place(5, 5);
 constexpr int Arrow_Width = 14; ///< of an entry of the address bar
 constexpr int Same_Looks = 4;
-constexpr QSize Gallery_Size(860, 560);
+constexpr QSize Gallery_Size(980, 560);
 constexpr QSize Address_Size(600, 300);
 
 const QByteArray Settings = "[General]\nformat=1\n[gallery]\nfavourites=warm, sharpen, vignette\n";
