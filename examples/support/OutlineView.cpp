@@ -86,7 +86,7 @@ void OutlineView::addEntries(const QList<OutlineEntry> &entries)
 
 void OutlineView::choose(const QTreeWidgetItem *item)
 {
-    if (!item || !item->flags().testFlag(Qt::ItemIsEnabled))
+    if (item == nullptr || !item->flags().testFlag(Qt::ItemIsEnabled))
         return;
     const int line = item->data(0, LineRole).toInt();
     if (line >= 0)

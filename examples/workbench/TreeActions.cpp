@@ -30,5 +30,5 @@ QAction *TreeActions::actionFor(const QKeySequence &keys) const
 
 bool TreeActions::hasFocus() const
 {
-    return m_tree && m_tree->hasFocus();
+    return m_tree != nullptr && m_tree->hasFocus();
 }

@@ -25,7 +25,7 @@ class LayoutDelay
 public:
     explicit LayoutDelay(const QWidget *page)
         : m_layout(page && !page->parentWidget()->isVisible() ? page->layout() : nullptr),
-          m_wasEnabled(m_layout && m_layout->isEnabled())
+          m_wasEnabled(m_layout != nullptr && m_layout->isEnabled())
     {
         if (m_wasEnabled)
             m_layout->setEnabled(false);
