@@ -110,9 +110,14 @@ void VornFrameAgentPrivate::setupMainWindow(QMainWindow *window, bool withAddres
         for (const auto area : {DockContainer::Left, DockContainer::Bottom, DockContainer::Right})
             dockContainer->panelWidget(area)->panel()->hide();
     }
+    // The connection outlives this object by a moment: until those who hear of the agent's end have
+    // been told.
     QObject::connect(dockContainer->contentWidget(),
                      &DockContentWidget::signalCurrentSectionChanged, q_ptr,
-                     [this](int section) { showPagesOf(section); });
+                     [this, agent = QPointer<VornFrameAgent>(q_ptr)](int section) {
+                         if (agent)
+                             showPagesOf(section);
+                     });
     StyleSheets::installGlobalSheet(window);
 }
 

@@ -114,6 +114,7 @@ private Q_SLOTS:
     void theFirstTabMayDeleteTheWindow();
     void theLastTabMayDeleteTheWindow();
     void aPageThatIsShownMayDeleteTheAgent();
+    void anAgentThatIsEndingHearsNoSection();
 };
 
 void tst_VornFrameAgentSections::bindsPagesToASection()
@@ -414,6 +415,20 @@ void tst_VornFrameAgentSections::aPageThatIsShownMayDeleteTheAgent()
     DockContentWidget *content = bench.content();
     content->setCurrentTab(1, 0);
     QVERIFY(!bench.agent);
+}
+
+void tst_VornFrameAgentSections::anAgentThatIsEndingHearsNoSection()
+{
+    Workbench bench;
+    QVERIFY(bench.bind({2}, 1));
+    DockContentWidget *content = bench.content();
+    const RibbonBar *bar = bench.agent->ribbonBar();
+    // Told while the agent is still there as an object, but no longer as an agent.
+    connect(bench.agent.get(), &QObject::destroyed, content,
+            [content] { content->setCurrentTab(1, 0); });
+    bench.agent.reset();
+    QCOMPARE(content->currentSection(), 1);
+    QCOMPARE(bar->currentPage(), bench.pages.at(1));
 }
 
 QTEST_MAIN(tst_VornFrameAgentSections)
