@@ -112,9 +112,9 @@ QList<double> ask(const QString &program, const QStringList &arguments)
 {
     QProcess process;
     process.start(program, arguments);
-    process.waitForFinished();
+    const bool hasFinished = process.waitForFinished();
     const QByteArrayList words = process.readAllStandardOutput().simplified().split(' ');
-    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
+    if (!hasFinished || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
         qFatal("%s has failed", qUtf8Printable(program));
     QList<double> numbers;
     for (const QByteArray &word : words)

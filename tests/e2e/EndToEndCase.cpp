@@ -13,13 +13,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Orange above, so that its pixels can be told from those of the window, and dark blue below.
-QByteArray pictureBytes()
+QByteArray pictureBytes(QRgb top, QRgb bottom)
 {
     QImage image(200, 120, QImage::Format_RGB32);
-    image.fill(QColor(240, 140, 20));
+    image.fill(top);
     QPainter painter(&image);
-    painter.fillRect(0, 60, 200, 60, QColor(20, 40, 120));
+    painter.fillRect(0, 60, 200, 60, QColor(bottom));
     painter.end();
     QByteArray bytes;
     QBuffer buffer(&bytes);
@@ -46,7 +45,7 @@ void EndToEndCase::prepare()
     m_scene->write(u"folder/notes.md"_s, "# First\n\nalpha beta\n\n## Second\n\nalpha gamma\n");
     m_scene->write(u"folder/readme.txt"_s, "one\ntwo\nthree\n");
     m_scene->write(u"folder/table.csv"_s, "name,count\napple,3\npear,5\n");
-    m_scene->write(u"folder/picture.png"_s, pictureBytes());
+    m_scene->write(u"folder/picture.png"_s, pictureBytes(PictureTop, PictureBottom));
     m_scene->write(u"folder/inner/deep.txt"_s, "deep\n");
     m_scene->write(u"other/else.txt"_s, "else\n");
 }

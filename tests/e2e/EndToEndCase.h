@@ -6,6 +6,7 @@
 #include "Scene.h"
 
 #include <QObject>
+#include <QRgb>
 #include <QTest>
 
 #include <memory>
@@ -23,6 +24,11 @@ protected Q_SLOTS:
     void cleanup();
 
 protected:
+    /// The two halves of "folder/picture.png", above and below. Orange, so that it can be told from
+    /// the pixels of the window, and dark blue.
+    static constexpr QRgb PictureTop = qRgb(240, 140, 20);
+    static constexpr QRgb PictureBottom = qRgb(20, 40, 120);
+
     Scene *scene() const { return m_scene.get(); }
     WorkbenchProcess *workbench() const { return m_scene->workbench(); }
     const Person *person() const { return m_scene->person(); }

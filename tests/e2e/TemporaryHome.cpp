@@ -25,7 +25,7 @@ TemporaryHome::TemporaryHome()
 {
     const QDir home(m_folder.path());
     for (const auto &name : {u"config"_s, u"data"_s, u"cache"_s, u"runtime"_s}) {
-        if (!home.mkdir(name))
+        if (!m_folder.isValid() || !home.mkdir(name))
             qFatal("a temporary home folder could not be made");
     }
     QFile::setPermissions(path(u"runtime"_s),

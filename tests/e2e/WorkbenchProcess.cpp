@@ -56,18 +56,18 @@ QStringList WorkbenchProcess::ask(const QString &command)
     if (m_steps->haveFailed())
         return {};
     const QByteArray end = "end: " + command.toUtf8() + '\n';
-    m_output.clear();
+    QByteArray output;
     m_process.write(command.toUtf8() + '\n');
-    while (!m_output.endsWith(end)) {
+    while (!output.endsWith(end)) {
         if (!m_process.waitForReadyRead(Patience)) {
             m_steps->fail(u"no answer to “%1”: %2 %3"_s.arg(
                 command, m_process.errorString(),
                 QString::fromUtf8(m_process.readAllStandardError())));
             return {};
         }
-        m_output += m_process.readAllStandardOutput();
+        output += m_process.readAllStandardOutput();
     }
-    QStringList lines = QString::fromUtf8(m_output).split(u'\n', Qt::SkipEmptyParts);
+    QStringList lines = QString::fromUtf8(output).split(u'\n', Qt::SkipEmptyParts);
     lines.removeLast();
     return lines;
 }

@@ -66,5 +66,4 @@ private:
 
     Steps *const m_steps;
     ChildProcess m_process;
-    QByteArray m_output;
 };

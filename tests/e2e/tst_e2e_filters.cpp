@@ -27,20 +27,13 @@ private:
     QPoint m_middle; ///< of the picture on the screen
 };
 
-namespace {
-
-const QColor Orange(240, 140, 20);
-const QColor Blue(20, 40, 120);
-
-} // namespace
-
 void tst_E2eFilters::openPicture()
 {
     scene()->start({u"folder/picture.png"_s});
     workbench()->waitFor(u"ribbon page"_s, u"pictureTools"_s);
     m_middle = workbench()->place(u"widget picture"_s).center();
-    scene()->waitForColor(top(), Orange);
-    scene()->waitForColor(bottom(), Blue);
+    scene()->waitForColor(top(), PictureTop);
+    scene()->waitForColor(bottom(), PictureBottom);
 }
 
 void tst_E2eFilters::openPopup() const
@@ -58,7 +51,7 @@ void tst_E2eFilters::theStripFiltersThePicture()
     scene()->waitForColor(bottom(), QColor(235, 215, 135));
     person()->press(u"ctrl+z"_s);
     workbench()->waitFor(u"tabs 1"_s, u"picture.png"_s);
-    scene()->waitForColor(top(), Orange);
+    scene()->waitForColor(top(), PictureTop);
     scene()->leave();
 }
 
@@ -74,7 +67,7 @@ void tst_E2eFilters::thePopupFiltersThePicture()
     scene()->waitForColor(top(), QColor(240, 0, 0));
     scene()->click(u"button Home"_s);
     scene()->click(u"action undo"_s);
-    scene()->waitForColor(top(), Orange);
+    scene()->waitForColor(top(), PictureTop);
     scene()->click(u"action redo"_s);
     scene()->waitForColor(top(), QColor(240, 0, 0));
     person()->press(u"ctrl+s"_s);
@@ -96,8 +89,8 @@ void tst_E2eFilters::aTypedNameFindsAFilterInThePopup()
     workbench()->waitUntilGone(u"action filter_blue"_s);
     scene()->click(u"action filter_flip"_s);
     workbench()->waitFor(u"tabs 1"_s, u"picture.png*"_s);
-    scene()->waitForColor(top(), Blue);
-    scene()->waitForColor(bottom(), Orange);
+    scene()->waitForColor(top(), PictureBottom);
+    scene()->waitForColor(bottom(), PictureTop);
     person()->press(u"ctrl+z"_s);
     workbench()->waitFor(u"tabs 1"_s, u"picture.png"_s);
     scene()->leave();

@@ -26,7 +26,7 @@ private Q_SLOTS:
     void itShowsWhatTheCommandLineNames_data();
     void itShowsWhatTheCommandLineNames();
     void itShowsWhatTheSettingsName();
-    void aFileThatCannotBeOpenedIsSaid();
+    void aFileThatIsNotThereIsSaid();
 
 private:
     void write(const QString &name, const QByteArray &bytes) const;
@@ -124,7 +124,7 @@ void tst_E2eOffscreen::itShowsWhatTheSettingsName()
     }
 }
 
-void tst_E2eOffscreen::aFileThatCannotBeOpenedIsSaid()
+void tst_E2eOffscreen::aFileThatIsNotThereIsSaid()
 {
     start({u"folder/missing.txt"_s});
     m_workbench->waitFor(u"box"_s, u"Warning"_s);

@@ -83,7 +83,7 @@ QImage tst_E2ePictures::pictureOfTheWindow(int scale)
     const QRect window = workbench()->place(u"widget workbench"_s);
     person()->move(window.topLeft() + QPoint(600, 5));
     const QPoint middle = workbench()->place(u"widget picture"_s).center();
-    scene()->waitForColor(middle - QPoint(0, 20), QColor(240, 140, 20));
+    scene()->waitForColor(middle - QPoint(0, 20), PictureTop);
     const QImage picture = scene()->picture().copy(
         QRect(window.topLeft() * scale, window.size() * scale));
     scene()->leave();

@@ -251,11 +251,15 @@ void tst_VornFrameAgentMainWindow::aSecondSetupIsIgnored()
     const QWidget *central = dressed.window->centralWidget();
     const QList<QWidget *> stacked = dressed.stacked();
     QMainWindow other;
-    dressed.agent->setup(sameWindow ? dressed.window.get() : &other, true, true);
+    QMainWindow *second = sameWindow ? dressed.window.get() : &other;
+    second->setStyleSheet(u"QLabel { color: red; }"_s);
+    dressed.agent->setup(second, true, true);
     QCOMPARE(dressed.window->centralWidget(), central);
     QCOMPARE(dressed.stacked(), stacked);
     QVERIFY(!dressed.agent->addressBar());
     QVERIFY(!other.centralWidget());
+    QVERIFY(!second->findChild<QStatusBar *>());
+    QCOMPARE(qApp->styleSheet(), globalSheet());
 }
 
 void tst_VornFrameAgentMainWindow::anEmptyWindowPointerCountsAsTheSetup()
@@ -263,13 +267,16 @@ void tst_VornFrameAgentMainWindow::anEmptyWindowPointerCountsAsTheSetup()
     const LookRestorer restorer;
     VornFrameAgent agent;
     const std::unique_ptr<RibbonBar> bar(agent.ribbonBar());
+    const QString sheet = qApp->styleSheet();
     agent.setup(static_cast<QMainWindow *>(nullptr), true, true);
+    QCOMPARE(qApp->styleSheet(), sheet);
     QVERIFY(!agent.addressBar());
     QVERIFY(!agent.dockContainer());
     QMainWindow window;
     agent.setup(&window, true, true);
     QVERIFY(!window.centralWidget());
     QVERIFY(!agent.dockContainer());
+    QCOMPARE(qApp->styleSheet(), sheet);
 }
 
 void tst_VornFrameAgentMainWindow::aSetupDialogCountsForMainWindowsToo()

@@ -182,7 +182,8 @@ public:
 qint64 heap()
 {
 #if defined(__GLIBC__) && __GLIBC_PREREQ(2, 33)
-    return qint64(::mallinfo2().uordblks);
+    const struct mallinfo2 info = ::mallinfo2();
+    return qint64(info.uordblks + info.hblkhd);
 #else
     return 0;
 #endif
