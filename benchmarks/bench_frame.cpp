@@ -186,6 +186,7 @@ std::vector<double> secondsOfSwitches(Create create)
     for (int section = 0; section < FrameWindow::Sections; ++section)
         secondsOfSwitch(*scene, section);
     std::vector<double> times;
+    times.reserve(Switches);
     for (int turn = 0; turn < Switches; ++turn)
         times.push_back(secondsOfSwitch(*scene, turn % FrameWindow::Sections));
     return times;

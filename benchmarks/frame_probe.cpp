@@ -47,8 +47,8 @@ int main(int argc, char **argv)
     QLoggingCategory::setFilterRules(u"*.warning=false"_s);
     QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     const QApplication app(argc, argv);
-    const QString kind = app.arguments().value(1);
-    const QString path = app.arguments().value(2);
+    const QString kind = QCoreApplication::arguments().value(1);
+    const QString path = QCoreApplication::arguments().value(2);
 
     const long residentBefore = status("VmRSS:");
     const double heapBefore = heap();

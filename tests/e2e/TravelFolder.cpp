@@ -18,7 +18,7 @@ namespace {
 constexpr QSize Wide_Size(1200, 800);
 constexpr QSize Square_Size(900, 900);
 
-const char *const Log_Text = R"(# Along the coast
+const char *const logText = R"(# Along the coast
 
 Notes of nine days by ferry, from harbour to harbour.
 
@@ -49,7 +49,7 @@ A day for letters, and for a new pair of boots.
 Fog. We heard the lighthouse before we saw it.
 )";
 
-const char *const Packing_Text = R"(rain coat
+const char *const packingText = R"(rain coat
 two jerseys
 boots
 sea charts 12 to 19
@@ -57,7 +57,7 @@ camera, three batteries
 tin of biscuits
 )";
 
-const char *const Harbours_Text = R"(Harbour,Day,Berths,Depth (m),Fee,Fuel
+const char *const harboursText = R"(Harbour,Day,Berths,Depth (m),Fee,Fuel
 Bergen,1,240,11.5,180,yes
 Florø,1,85,7.0,120,yes
 Ålesund,2,310,10.0,210,yes
@@ -104,14 +104,14 @@ bool TravelFolder::write(const QString &name, const QByteArray &bytes) const
 
 bool TravelFolder::writeTexts() const
 {
-    return write(u"log.md"_s, Log_Text) && write(u"packing.txt"_s, Packing_Text)
+    return write(u"log.md"_s, logText) && write(u"packing.txt"_s, packingText)
            && write(u"Letters/to Ingrid.txt"_s, "Dear Ingrid,\n\nthe biscuits are gone.\n")
            && write(u"Letters/to the harbour master.txt"_s, "Dear Sir,\n\nabout berth 17:\n");
 }
 
 bool TravelFolder::writeTables() const
 {
-    return write(u"harbours.csv"_s, Harbours_Text)
+    return write(u"harbours.csv"_s, harboursText)
            && write(u"Charts/12 Bergen.csv"_s, "Light,Period\nMarstein,10\nHellisøy,20\n")
            && write(u"Charts/13 Stad.csv"_s, "Light,Period\nSvinøy,30\n");
 }

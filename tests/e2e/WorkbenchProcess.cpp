@@ -29,7 +29,7 @@ QRect rectOf(const QString &text)
 
 } // namespace
 
-WorkbenchProcess::WorkbenchProcess(const TemporaryHome *home, Place place, Steps *steps)
+WorkbenchProcess::WorkbenchProcess(const TemporaryHome *home, const Place &place, Steps *steps)
     : m_steps(steps)
 {
     QProcessEnvironment environment = home->environment(place.display);

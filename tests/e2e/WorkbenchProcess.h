@@ -27,7 +27,7 @@ public:
     };
 
     /// Its settings are in the file "settings.ini" of \a home.
-    WorkbenchProcess(const TemporaryHome *home, Place place, Steps *steps);
+    WorkbenchProcess(const TemporaryHome *home, const Place &place, Steps *steps);
 
     /// Runs \a program, until it can be asked. Paths among \a arguments are taken from the home
     /// folder.

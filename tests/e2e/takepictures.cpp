@@ -17,7 +17,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Seen in the address bar, so it is the same everywhere.
-const QString Folder_Path = u"/tmp/Voyage"_s;
+QString folderPath()
+{
+    return u"/tmp/Voyage"_s;
+}
 
 constexpr QPoint Parking_Place(5, 5);
 constexpr int Arrow_Width = 14; ///< of an entry of the address bar
@@ -25,7 +28,10 @@ constexpr int Same_Looks = 4;
 constexpr QSize Gallery_Size(980, 560);
 constexpr QSize Address_Size(600, 300);
 
-const QByteArray Settings = "[General]\nformat=1\n[gallery]\nfavourites=warm, sharpen, vignette\n";
+QByteArray settings()
+{
+    return "[General]\nformat=1\n[gallery]\nfavourites=warm, sharpen, vignette\n";
+}
 
 /// The workbench with some files, and the folder where its pictures go.
 class Photographer
@@ -37,7 +43,7 @@ public:
 
     void start(const TravelFolder &folder)
     {
-        m_scene.write(u"settings.ini"_s, Settings);
+        m_scene.write(u"settings.ini"_s, settings());
         QStringList paths{folder.path()};
         for (const auto &name : {u"harbours.csv"_s, u"packing.txt"_s, u"log.md"_s,
                                  u"lighthouse.png"_s, u"fjord.png"_s})
@@ -167,9 +173,9 @@ int main(int argc, char *argv[])
         errors << "usage: takepictures WORKBENCH FOLDER\n";
         return 2;
     }
-    const TravelFolder folder(Folder_Path);
+    const TravelFolder folder(folderPath());
     if (!folder.isComplete()) {
-        errors << Folder_Path << " is in the way, or could not be written\n";
+        errors << folderPath() << " is in the way, or could not be written\n";
         return 1;
     }
     for (const int scale : {1, 2}) {

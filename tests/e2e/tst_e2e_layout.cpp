@@ -20,7 +20,7 @@ private Q_SLOTS:
 
 private:
     QRect panel(const QString &name) const;
-    void dragEdge(const QString &panel, int by) const;
+    void dragEdge(const QString &name, int by) const;
     void dragFrame(QPoint from, QPoint by) const;
     void markFavourite() const;
 };

@@ -21,10 +21,10 @@ private:
 
 namespace {
 
-const QColor RowOfTabs(0, 64, 115);
-const QColor Plate(17, 113, 190); // behind the tabs of temporary pages
-const QColor CurrentTab(245, 245, 245);
-const QColor Bar(230, 230, 230); // of buttons, at the sides
+const QColor rowOfTabs(0, 64, 115);
+const QColor plate(17, 113, 190); // behind the tabs of temporary pages
+const QColor currentTab(245, 245, 245);
+const QColor bar(230, 230, 230); // of buttons, at the sides
 
 /// The edge of the squares in which two pictures are compared, in units of the program.
 constexpr int Square = 20;
@@ -53,23 +53,23 @@ void tst_E2ePictures::theRibbonHasItsColours()
     scene()->start({u"folder/readme.txt"_s, u"folder/picture.png"_s});
     workbench()->waitFor(u"ribbon page"_s, u"pictureTools"_s);
     const QRect window = workbench()->place(u"widget workbench"_s);
-    scene()->waitForColor(window.topLeft() + QPoint(600, 5), RowOfTabs);
-    scene()->waitForColor(window.topLeft() + QPoint(17, 400), Bar);
-    scene()->waitForColor(window.topRight() + QPoint(-16, 400), Bar);
+    scene()->waitForColor(window.topLeft() + QPoint(600, 5), rowOfTabs);
+    scene()->waitForColor(window.topLeft() + QPoint(17, 400), bar);
+    scene()->waitForColor(window.topRight() + QPoint(-16, 400), bar);
     // Beside the tab, which has a colour of its own because it is the current one.
     const QRect tab = workbench()->place(u"button Picture Tools"_s);
     const QPoint besideTab(tab.left() - 2, tab.center().y());
-    scene()->waitForColor(besideTab, Plate);
-    scene()->waitForColor(tab.topLeft() + QPoint(4, 4), CurrentTab);
+    scene()->waitForColor(besideTab, plate);
+    scene()->waitForColor(tab.topLeft() + QPoint(4, 4), currentTab);
     scene()->click(u"button Home"_s);
     workbench()->waitFor(u"ribbon page"_s, u"homePage"_s);
     person()->move(window.center());
-    scene()->waitForColor(tab.topLeft() + QPoint(4, 4), Plate);
+    scene()->waitForColor(tab.topLeft() + QPoint(4, 4), plate);
     // The plate goes with its tab.
     person()->press(u"ctrl+w"_s);
     workbench()->waitFor(u"temporary pages"_s, u"Text Tools"_s);
     scene()->waitForColor(workbench()->place(u"button Text Tools"_s).topLeft() + QPoint(4, 4),
-                          CurrentTab);
+                          currentTab);
     scene()->leave();
 }
 
@@ -84,7 +84,7 @@ QImage tst_E2ePictures::pictureOfTheWindow(int scale)
     person()->move(window.topLeft() + QPoint(600, 5));
     const QPoint middle = workbench()->place(u"widget picture"_s).center();
     scene()->waitForColor(middle - QPoint(0, 20), PictureTop);
-    const QImage picture = scene()->picture().copy(
+    QImage picture = scene()->picture().copy(
         QRect(window.topLeft() * scale, window.size() * scale));
     scene()->leave();
     return picture;
