@@ -91,6 +91,7 @@ void VornFrameAgentPrivate::setupDialog(QDialog *dialog, QWidget *content) const
 void VornFrameAgentPrivate::setupMainWindow(QMainWindow *window, bool withAddressBar,
                                             bool withDockPanels)
 {
+    const QPointer<VornFrameAgent> agent = q_ptr;
     auto *central = new QWidget;
     window->setCentralWidget(central);
     auto *layout = new QVBoxLayout(central);
@@ -110,15 +111,21 @@ void VornFrameAgentPrivate::setupMainWindow(QMainWindow *window, bool withAddres
         for (const auto area : {DockContainer::Left, DockContainer::Bottom, DockContainer::Right})
             dockContainer->panelWidget(area)->panel()->hide();
     }
+    if (agent)
+        followSections(agent);
+    StyleSheets::installGlobalSheet(window);
+}
+
+void VornFrameAgentPrivate::followSections(const QPointer<VornFrameAgent> &agent) const
+{
     // The connection outlives this object by a moment: until those who hear of the agent's end have
     // been told.
     QObject::connect(dockContainer->contentWidget(),
-                     &DockContentWidget::signalCurrentSectionChanged, q_ptr,
-                     [this, agent = QPointer<VornFrameAgent>(q_ptr)](int section) {
+                     &DockContentWidget::signalCurrentSectionChanged, agent.data(),
+                     [this, agent](int section) {
                          if (agent)
                              showPagesOf(section);
                      });
-    StyleSheets::installGlobalSheet(window);
 }
 
 /// \a section has become the current one. Pages that come and go are seen by the host, which may
@@ -155,14 +162,16 @@ VornFrameAgent::~VornFrameAgent() = default;
 
 void VornFrameAgent::setup(QDialog *dialog, QWidget *content)
 {
-    Q_D(VornFrameAgent);
+    // Whoever sees widgets come and go in the window may delete the agent meanwhile.
+    const std::shared_ptr<VornFrameAgentPrivate> d = d_ptr;
     if (d->beginSetup() && dialog)
         d->setupDialog(dialog, content);
 }
 
 void VornFrameAgent::setup(QMainWindow *window, bool addressBar, bool dockPanels)
 {
-    Q_D(VornFrameAgent);
+    // Whoever sees widgets come and go in the window may delete the agent meanwhile.
+    const std::shared_ptr<VornFrameAgentPrivate> d = d_ptr;
     if (d->beginSetup() && window)
         d->setupMainWindow(window, addressBar, dockPanels);
 }

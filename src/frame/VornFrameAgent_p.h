@@ -27,6 +27,7 @@ public:
     bool beginSetup();
     void setupDialog(QDialog *dialog, QWidget *content) const;
     void setupMainWindow(QMainWindow *window, bool withAddressBar, bool withDockPanels);
+    void followSections(const QPointer<VornFrameAgent> &agent) const;
     void showPagesOf(int section) const;
 
     QPointer<VornFrame::RibbonBar> ribbonBar =

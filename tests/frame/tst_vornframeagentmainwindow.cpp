@@ -95,6 +95,7 @@ private Q_SLOTS:
     void anAgentOwnedByItsWindowGoesWithIt();
     void aRibbonBarDeletedBeforeTheSetupIsLeftOut();
     void theSheetMayDeleteTheAgent();
+    void theFormerCentralWidgetMayDeleteTheAgent();
     void manyWindowsLeaveNothingBehind();
 };
 
@@ -379,6 +380,43 @@ void tst_VornFrameAgentMainWindow::theSheetMayDeleteTheAgent()
     window.agent->setup(&window, true, true);
     QVERIFY(!window.agent);
     QCOMPARE(bar->parentWidget(), window.centralWidget());
+    QCOMPARE(qApp->styleSheet(), globalSheet());
+}
+
+void tst_VornFrameAgentMainWindow::theFormerCentralWidgetMayDeleteTheAgent()
+{
+    // Deletes it when its place is taken.
+    class Deleter : public QWidget
+    {
+    public:
+        explicit Deleter(VornFrameAgent *agent) : m_agent(agent) {}
+
+    protected:
+        void hideEvent(QHideEvent *event) override
+        {
+            delete m_agent;
+            QWidget::hideEvent(event);
+        }
+
+    private:
+        QPointer<VornFrameAgent> m_agent;
+    };
+
+    const LookRestorer restorer;
+    QMainWindow window;
+    const QPointer<VornFrameAgent> agent = new VornFrameAgent;
+    const RibbonBar *bar = agent->ribbonBar();
+    window.setCentralWidget(new Deleter(agent));
+    window.resize(WindowSize);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    agent->setup(&window, true, true);
+    QVERIFY(!agent);
+    // What was begun is done as a whole.
+    QCOMPARE(bar->parentWidget(), window.centralWidget());
+    auto *content = window.findChild<DockContentWidget *>();
+    QVERIFY(content);
+    content->addTab(content->addSection(u"Section"_s), new QWidget, u"Tab"_s);
     QCOMPARE(qApp->styleSheet(), globalSheet());
 }
 
