@@ -71,6 +71,7 @@ private Q_SLOTS:
     void clicksDoNotReachAPageShownBehind();
     void aHiddenPageIsShownWhenItBecomesCurrent();
     void aPageChosenInAHiddenStackIsPolishedWhenItIsSeen();
+    void aHiddenStackIsDrawnAsItWillBeSeen();
     void aPageShownBehindWorksWhenItBecomesCurrent_data();
     void aPageShownBehindWorksWhenItBecomesCurrent();
     void aPageShownBehindComesForwardWhenTheCurrentOneIsDeleted();
@@ -387,6 +388,30 @@ void tst_RibbonStackedWidget::aPageChosenInAHiddenStackIsPolishedWhenItIsSeen()
     QVERIFY(button->testAttribute(Qt::WA_WState_Polished));
     QVERIFY(group->width() >= button->sizeHint().width());
     QVERIFY(group->rect().contains(QRect(button->mapTo(group, QPoint()), button->size())));
+}
+
+void tst_RibbonStackedWidget::aHiddenStackIsDrawnAsItWillBeSeen()
+{
+    RibbonStackedWidget stack(nullptr);
+    for (const auto &title : {u"Home"_s, u"View"_s}) {
+        RibbonPage *page = stack.addPage(title);
+        for (const auto &name : {u"First"_s, u"Second"_s})
+            page->addGroup(name)->addAction(new QAction(title + name, page));
+        page->setEnabled(false); // the same below the pointer, wherever that is
+    }
+    stack.resize(400, stack.height());
+    // Never shown, and then hidden again, with another size.
+    for (const int index : {1, 0}) {
+        stack.showPage(index);
+        stack.setCurrentPage(index);
+        const QImage hidden = stack.grab().toImage();
+        QVERIFY(Input::show(&stack));
+        QCOMPARE(stack.grab().toImage(), hidden);
+        const QList<RibbonGroup *> groups = stack.page(index)->findChildren<RibbonGroup *>();
+        QCOMPARE(groups.at(1)->x(), groups.at(0)->geometry().right() + 1);
+        stack.hide();
+        stack.resize(600, stack.height());
+    }
 }
 
 void tst_RibbonStackedWidget::aPageShownBehindWorksWhenItBecomesCurrent_data()
