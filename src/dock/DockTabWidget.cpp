@@ -5,10 +5,6 @@
 
 #include "DockTabBar.h"
 
-#include "core/LazyPolish.h"
-
-#include <QEvent>
-#include <QStackedWidget>
 #include <QStyleOptionTabWidgetFrame>
 
 namespace VornFrame {
@@ -36,17 +32,8 @@ QSize largestHint(const QTabWidget *tabs, HintOf hintOf)
 DockTabWidget::DockTabWidget(QWidget *parent) : QTabWidget(parent)
 {
     setTabBar(new DockTabBar(this));
-    dropEarlyPolish(tabBar());
-    // Polishing goes down to all children, once for each widget. A stack that has been polished
-    // while it was empty ends that walk: its pages are polished when they are first shown.
-    findChild<QStackedWidget *>()->ensurePolished();
     // A page that is seen for the first time counts from now on.
     connect(this, &QTabWidget::currentChanged, this, &DockTabWidget::updateGeometry);
-}
-
-bool DockTabWidget::event(QEvent *event)
-{
-    return isEarlyPolish(this, event) || QTabWidget::event(event);
 }
 
 QSize DockTabWidget::sizeHint() const

@@ -19,9 +19,6 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-protected:
-    bool event(QEvent *event) override;
-
 private:
     Q_DISABLE_COPY_MOVE(DockTabWidget)
 

@@ -3,10 +3,8 @@
 
 #include "dock/ContainerWindow.h"
 
-#include "support/Input.h"
 #include "support/TestCase.h"
 
-#include <QLabel>
 #include <QPointer>
 
 using namespace Qt::StringLiterals;
@@ -18,7 +16,6 @@ class tst_DockContentTabs : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void contentsArePolishedWhenTheyAreFirstSeen();
     void addingTabsGivesTheirIndexes();
     void theFirstTabReportsTabThenSection();
     void theFirstTabOfAnotherSectionReportsThatInTheEnd();
@@ -57,24 +54,6 @@ private Q_SLOTS:
     void draggingATabMovesIt();
     void hidingTheCurrentTabReportsAnother();
 };
-
-void tst_DockContentTabs::contentsArePolishedWhenTheyAreFirstSeen()
-{
-    DockContentWidget content;
-    content.addSection(u"First"_s);
-    content.addSection(u"Second"_s);
-    content.addTab(0, new QLabel(u"seen"_s), u"Seen"_s);
-    auto *later = new QLabel(u"later"_s);
-    content.addTab(1, new QLabel(u"first"_s), u"First"_s);
-    content.addTab(1, later, u"Later"_s);
-    content.setCurrentTab(0, 0);
-    QVERIFY(Input::show(&content));
-    QCoreApplication::processEvents();
-    QVERIFY(!later->testAttribute(Qt::WA_WState_Polished));
-    content.setCurrentTab(1, 1);
-    QVERIFY(later->isVisible());
-    QVERIFY(later->testAttribute(Qt::WA_WState_Polished));
-}
 
 void tst_DockContentTabs::addingTabsGivesTheirIndexes()
 {
