@@ -183,7 +183,7 @@ qint64 heap()
 {
 #if defined(__GLIBC__) && __GLIBC_PREREQ(2, 33)
     const struct mallinfo2 info = ::mallinfo2();
-    return qint64(info.uordblks + info.hblkhd);
+    return qint64(info.uordblks) + qint64(info.hblkhd);
 #else
     return 0;
 #endif
