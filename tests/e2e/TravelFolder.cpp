@@ -98,7 +98,7 @@ bool TravelFolder::write(const QString &name, const QByteArray &bytes) const
         || file.write(bytes) != bytes.size() || !file.flush())
         return false;
     // Shown by the window, so it must not be that of the day.
-    const QDateTime time(QDate(2024, 6, 12), QTime(18, 30), Qt::UTC);
+    const QDateTime time = QDateTime::fromString(u"2024-06-12T18:30:00Z"_s, Qt::ISODate);
     return file.setFileTime(time, QFileDevice::FileModificationTime);
 }
 
