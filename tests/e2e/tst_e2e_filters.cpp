@@ -99,6 +99,8 @@ void tst_E2eFilters::aTypedNameFindsAFilterInThePopup()
 void tst_E2eFilters::theSearchFieldOffersFilters()
 {
     openPicture();
+    // Qt 6.8 takes the first click of a pointer that it has never seen for a mere closing of the menu.
+    person()->move(workbench()->place(u"widget picture"_s).center());
     person()->press(u"ctrl+f"_s);
     workbench()->waitFor(u"focus"_s, u"searchField"_s);
     person()->type(u"mirror"_s);
